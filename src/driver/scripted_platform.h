@@ -1,0 +1,73 @@
+// The platform answered by script: no screen, boxes answered from a queue, all that happens told as
+// notices. The driver and the tests share it.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "frame/platform.h"
+
+namespace korvane {
+
+class ScriptedPlatform final : public Platform {
+ public:
+  /// Takes each notice as it happens, in the driver's form ("! beep"), without a line end.
+  std::function<void(const std::string&)> onNotice;
+  /// Runs while a window is modal, until that window is hidden or unloaded.
+  std::function<void(Window&)> onModal;
+
+  struct File {
+    std::string path;
+  };
+  /// The next box or dialog is answered so. With nothing queued a message is answered OK, a question
+  /// and a dialog Cancel.
+  void Queue(std::variant<Answer, File> answer) { answers_.push_back(std::move(answer)); }
+
+  /// Forgets settings, clipboard and queued answers.
+  void Reset();
+
+  std::map<std::string, std::string> settings;
+  std::string clipboard;
+
+  /// Thrown out of the running handler where the desktop program would end at once.
+  struct ProgramEnded {
+    int status;
+  };
+
+  void WindowShown(Window& window, bool loaded) override;
+  void WindowHidden(Window&) override {}
+  void WindowUnloaded(Window& window) override;
+  void WindowActivated(Window&) override {}
+  void Refresh(Window&, const std::vector<Control*>&, bool) override {}
+  void RunModal(Window& window) override;
+  void RunPendingMessages() override {}
+  void SetHourglass(bool) override {}
+  void Show(const Message& message) override;
+  Answer Ask(const Question& question) override;
+  std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
+  std::optional<std::string> ChooseFolder(const std::string& title) override;
+  void Beep() override;
+  void SetClipboard(const std::string& text) override;
+  void Launch(const std::string& what) override;
+  std::optional<std::string> Setting(const std::string& key) override;
+  void SaveSetting(const std::string& key, const std::string& value) override;
+  void Fail(const RuntimeFailure& failure) override;
+  [[noreturn]] void EndProgram(int status) override;
+  void LastWindowClosed() override {}
+
+ private:
+  void Notice(const std::string& notice) const;
+  std::optional<std::string> TakeFile();
+
+  std::deque<std::variant<Answer, File>> answers_;
+};
+
+/// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r \t.
+std::string Escaped(std::string_view text);
+std::string Unescaped(std::string_view text);
+
+}  // namespace korvane

@@ -1,0 +1,71 @@
+#include "frame/calculator_window.h"
+
+#include "frame/session.h"
+
+namespace korvane {
+
+CalculatorWindow::CalculatorWindow(Session& session, CalculatorTraits traits)
+    : Window(session, {std::move(traits.name), std::move(traits.title), traits.sizable}),
+      helpPage_(std::move(traits.helpPage)) {}
+
+void CalculatorWindow::Load() {
+  GetSession().HelpTopic = helpPage_;
+  ApplyFormColors(*this);
+}
+
+void CalculatorWindow::Activated() { GetSession().HelpTopic = helpPage_; }
+
+bool CalculatorWindow::KeyPreview(Key key) {
+  if (key != Key::F1) return false;
+  GetSession().ShowHelp();
+  return true;
+}
+
+void CalculatorWindow::HelpsWith(Command& command) {
+  command.onClick = [this] { GetSession().ShowHelp(); };
+}
+
+void CalculatorWindow::ExitsWith(Command& command) {
+  command.onClick = [this] { GetSession().Unload(*this); };
+}
+
+void CalculatorWindow::PrintsWith(Command& command) {
+  // Nothing can be printed until the suite has its page dialog.
+  command.SetEnabled(GetSession().IsKnown("Page_Setup"));
+}
+
+void CalculatorWindow::SavesWith(Command& command, const DataFile& data) {
+  command.onClick = [this, &data] { SaveData(GetSession(), data); };
+}
+
+void CalculatorWindow::LoadsWith(Command& command, const DataFile& data) {
+  command.onClick = [this, &data] { LoadData(GetSession(), data); };
+}
+
+bool CalculatorWindow::IsMetric() const { return GetSession().MetricUnits; }
+
+void CalculatorWindow::PassesFocusOn(std::initializer_list<TextField*> fields) {
+  for (TextField* field : fields) {
+    field->MakeResult();
+    field->onFocus = [this] { GetSession().SendTab(); };
+  }
+}
+
+void CalculatorWindow::SelectsOnFocus(std::initializer_list<TextField*> fields) {
+  for (TextField* field : fields) field->onFocus = [field] { field->SelectAll(); };
+}
+
+void ApplyFormColors(Window& window) {
+  window.SetBack(Color::ButtonFace());
+  for (Control* control : window.Controls()) {
+    switch (control->GetKind()) {
+      case Control::Kind::Label:
+      case Control::Kind::Frame:
+      case Control::Kind::Option:
+      case Control::Kind::Check: control->SetBack(Color::ButtonFace()); break;
+      default: break;
+    }
+  }
+}
+
+}  // namespace korvane

@@ -1,0 +1,51 @@
+// What all calculator windows share: help page, F1, Help, Exit, Save and Load, colours.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+#include "frame/data_file.h"
+#include "frame/window.h"
+
+namespace korvane {
+
+struct CalculatorTraits {
+  std::string name;
+  std::string title;
+  std::string helpPage;
+  bool sizable = false;
+};
+
+class CalculatorWindow : public Window {
+ public:
+  CalculatorWindow(Session& session, CalculatorTraits traits);
+
+  void Load() override;  ///< an override calls this one first
+  void Activated() override;
+  bool KeyPreview(Key key) override;
+
+ protected:
+  // Declared once in a window's constructor.
+  void HelpsWith(Command& command);
+  void ExitsWith(Command& command);
+  void PrintsWith(Command& command);
+  void SavesWith(Command& command, const DataFile& data);
+  void LoadsWith(Command& command, const DataFile& data);
+
+  /// Whether metric units are selected now; captions keep to the units at the window's load.
+  bool IsMetric() const;
+
+  /// A result field that passes the focus on as soon as it gets it.
+  void PassesFocusOn(std::initializer_list<TextField*> fields);
+  /// Fields whose whole text is selected when they get the focus.
+  void SelectsOnFocus(std::initializer_list<TextField*> fields);
+
+ private:
+  std::string helpPage_;
+};
+
+/// Gives the window, and all its labels, frames, options and check boxes, the system's button-face
+/// colour.
+void ApplyFormColors(Window& window);
+
+}  // namespace korvane

@@ -1,0 +1,18 @@
+#include "frame/drawing.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace korvane {
+
+std::vector<Point> Arc(Point center, double radius, double from, double to) {
+  constexpr int steps = 24;
+  std::vector<Point> points;
+  for (int i = 0; i <= steps; ++i) {
+    const double angle = (from + (to - from) * i / steps) * std::numbers::pi / 180;
+    points.push_back({center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)});
+  }
+  return points;
+}
+
+}  // namespace korvane
