@@ -212,11 +212,16 @@ class TextField : public CaptionedControl {
   bool IsResult() const { return result_; }
   void MakeResult() { result_ = true; }
 
+  /// Holds words rather than a number: an address, a heading.
+  bool IsFreeText() const { return freeText_; }
+  void MakeFreeText() { freeText_ = true; }
+
   Handler onChange;
   Handler onEnter;
 
  private:
   std::string text_;
+  bool freeText_ = false;
   bool locked_ = false;
   bool result_ = false;
   bool selectAll_ = false;

@@ -13,6 +13,7 @@ constexpr Geometry kSize{0, 0, 13125, 9240};  // twips
 Help::Help(Session& session)
     : Window(session, {.name = "Help", .title = "Browser", .sizable = true}) {
   Text1.onEnter = cmdGo.onClick = [this] { GoToAddress(); };
+  Text1.MakeFreeText();
   Text1.onFocus = [this] { Text1.SelectAll(); };
   cmdBack.onClick = [this] { WebBrowser1.Go(PageView::Step::Back); };
   cmdForward.onClick = [this] { WebBrowser1.Go(PageView::Step::Forward); };

@@ -1,0 +1,133 @@
+#include "toolkit/arranger.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+#include <vector>
+
+#include "frame/controls.h"
+
+namespace korvane {
+namespace {
+
+class Arranger {
+ public:
+  using WidgetOf = std::function<QWidget*(Control&, QWidget&)>;
+
+  explicit Arranger(const WidgetOf& widgetOf) : widgetOf_(widgetOf) {}
+
+  QLayout* Build(const Layout& layout, QWidget& parent) {
+    switch (layout.kind) {
+      case Layout::Kind::Row: return Fill(new QHBoxLayout, layout, parent);
+      case Layout::Kind::Form: return FormOf(layout, parent);
+      case Layout::Kind::Grid: return GridOf(layout, parent);
+      case Layout::Kind::Column: {
+        // The forms of a column share one caption column.
+        const std::vector<QLabel*> outer = std::exchange(captions_, {});
+        QLayout* column = Fill(new QVBoxLayout, layout, parent);
+        AlignCaptions();
+        captions_ = outer;
+        return column;
+      }
+      default: {
+        auto* single = new QVBoxLayout;
+        Add(*single, layout, parent);
+        return single;
+      }
+    }
+  }
+
+ private:
+  QLayout* Fill(QBoxLayout* box, const Layout& layout, QWidget& parent) {
+    for (const Layout& part : layout.parts) Add(*box, part, parent);
+    return box;
+  }
+
+  void Add(QBoxLayout& box, const Layout& part, QWidget& parent) {
+    switch (part.kind) {
+      case Layout::Kind::Stretch: box.addStretch(1); break;
+      case Layout::Kind::Control:
+      case Layout::Kind::Frame:
+      case Layout::Kind::Rule: box.addWidget(WidgetFor(part, parent)); break;
+      default: box.addLayout(Build(part, parent));
+    }
+  }
+
+  QWidget* WidgetFor(const Layout& part, QWidget& parent) {
+    if (part.kind == Layout::Kind::Rule) {
+      auto* rule = new QFrame(&parent);
+      rule->setFrameShape(QFrame::HLine);
+      rule->setFrameShadow(QFrame::Sunken);
+      return rule;
+    }
+    QWidget* widget = widgetOf_(*part.control, parent);
+    if (part.kind == Layout::Kind::Frame)
+      widget->setLayout(Build(Layout(Layout::Kind::Column, part.parts), *widget));
+    return widget;
+  }
+
+  /// The caption beside a field, unless it is a frame's title or stands elsewhere in the layout.
+  QLabel* CaptionOf(const Layout& field, QWidget& parent) {
+    const Layout& first = field.parts.empty() ? field : field.parts.front();
+    auto* captioned = dynamic_cast<CaptionedControl*>(first.control);
+    if (captioned == nullptr || captioned->CaptionBeside().GetKind() != Control::Kind::Label)
+      return nullptr;
+    auto* label = qobject_cast<QLabel*>(widgetOf_(captioned->CaptionBeside(), parent));
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setBuddy(widgetOf_(*captioned, parent));
+    return label;
+  }
+
+  QLayout* FormOf(const Layout& layout, QWidget& parent) {
+    auto* grid = new QGridLayout;
+    int row = 0;
+    for (const Layout& field : layout.parts) {
+      if (QLabel* caption = CaptionOf(field, parent)) {
+        grid->addWidget(caption, row, 0);
+        captions_.push_back(caption);
+      }
+      AddCell(*grid, field, parent, row++, 1);
+    }
+    return grid;
+  }
+
+  QLayout* GridOf(const Layout& layout, QWidget& parent) {
+    auto* grid = new QGridLayout;
+    for (int row = 0; row < static_cast<int>(layout.parts.size()); ++row) {
+      const Layout& line = layout.parts[static_cast<std::size_t>(row)];
+      for (int column = 0; column < static_cast<int>(line.parts.size()); ++column)
+        AddCell(*grid, line.parts[static_cast<std::size_t>(column)], parent, row, column);
+    }
+    return grid;
+  }
+
+  void AddCell(QGridLayout& grid, const Layout& part, QWidget& parent, int row, int column) {
+    switch (part.kind) {
+      case Layout::Kind::Stretch: break;
+      case Layout::Kind::Control:
+      case Layout::Kind::Frame:
+      case Layout::Kind::Rule: grid.addWidget(WidgetFor(part, parent), row, column); break;
+      default: grid.addLayout(Build(part, parent), row, column);
+    }
+  }
+
+  void AlignCaptions() {
+    int width = 0;
+    for (const QLabel* caption : captions_) width = std::max(width, caption->sizeHint().width());
+    for (QLabel* caption : captions_) caption->setMinimumWidth(width);
+  }
+
+  const WidgetOf& widgetOf_;
+  std::vector<QLabel*> captions_;
+};
+
+}  // namespace
+
+QLayout* Arrange(const Layout& layout, QWidget& parent,
+                 const std::function<QWidget*(Control&, QWidget&)>& widgetOf) {
+  return Arranger(widgetOf).Build(layout, parent);
+}
+
+}  // namespace korvane

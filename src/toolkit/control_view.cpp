@@ -1,0 +1,461 @@
+#include "toolkit/control_view.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <optional>
+
+#include "frame/session.h"
+#include "toolkit/grid_view.h"
+#include "toolkit/number_edit.h"
+#include "toolkit/picture_widget.h"
+#include "toolkit/text.h"
+
+namespace korvane {
+namespace {
+
+std::optional<Key> KeyOf(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return Key::Enter;
+    case Qt::Key_F1: return Key::F1;
+    default: return std::nullopt;
+  }
+}
+
+/// Black or white, whichever stands out against the colour.
+QColor Contrast(const QColor& back) { return qGray(back.rgb()) > 127 ? Qt::black : Qt::white; }
+
+/// Text that is told to be red or blue, made lighter on a dark ground.
+QColor Readable(QColor fore, const QColor& ground) {
+  if (qGray(ground.rgb()) > 127) return fore;
+  return QColor::fromHslF(std::max(fore.hslHueF(), 0.0F), fore.hslSaturationF() * 0.9F,
+                          std::max(fore.lightnessF(), 0.72F));
+}
+
+/// A view that knows its control and its widget by their own types.
+template <class Model, class Shown>
+class ViewOf : public ControlView {
+ public:
+  ViewOf(Model& model, Shown* shown, const Person& person)
+      : ControlView(model, *shown, person), model_(model), shown_(*shown) {}
+
+ protected:
+  Model& model_;
+  Shown& shown_;
+};
+
+// ---- Fields ----
+
+class TextView final : public ViewOf<TextField, NumberEdit> {
+ public:
+  TextView(TextField& field, const Person& person, QWidget& parent)
+      : ViewOf(field, new NumberEdit(&parent), person) {
+    const bool number = !field.IsFreeText();
+    shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * (number ? 18 : 40));
+    connect(&shown_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { person_.Edits(model_, FromQt(text)); });
+  }
+
+ private:
+  void RefreshContent() override {
+    const QString text = ToQt(model_.Text());
+    if (shown_.text() != text) shown_.setText(text);
+    shown_.setReadOnly(model_.IsLocked() || model_.IsResult());
+    shown_.setAccessibleName(Plain(model_.Caption()));
+    if (model_.TakeSelectAll()) shown_.selectAll();
+  }
+};
+
+class ComboView final : public ViewOf<Combo, QComboBox> {
+ public:
+  ComboView(Combo& combo, const Person& person, QWidget& parent)
+      : ViewOf(combo, new QComboBox(&parent), person) {
+    shown_.setEditable(combo.IsEditable());
+    shown_.setInsertPolicy(QComboBox::NoInsert);
+    connect(&shown_, &QComboBox::activated, this,
+            [this](int index) { person_.Selects(model_, index); });
+    if (combo.IsEditable())
+      connect(&shown_, &QComboBox::editTextChanged, this,
+              [this](const QString& text) { person_.Edits(model_, FromQt(text)); });
+  }
+
+ private:
+  void RefreshContent() override {
+    const QSignalBlocker quiet(shown_);
+    QStringList items;
+    for (const std::string& item : model_.Items()) items << ToQt(item);
+    if (items != items_) {
+      shown_.clear();
+      shown_.addItems(items);
+      items_ = items;
+    }
+    shown_.setCurrentIndex(model_.Index());
+    if (model_.IsEditable() && shown_.currentText() != ToQt(model_.Text()))
+      shown_.setEditText(ToQt(model_.Text()));
+    shown_.setAccessibleName(Plain(model_.Caption()));
+  }
+
+  QStringList items_;
+};
+
+class ListView final : public ViewOf<ListBox, QListWidget> {
+ public:
+  ListView(ListBox& list, const Person& person, QWidget& parent)
+      : ViewOf(list, new QListWidget(&parent), person) {
+    connect(&shown_, &QListWidget::currentRowChanged, this, [this](int row) {
+      if (row >= 0 && row != model_.Index()) person_.Selects(model_, row);
+    });
+    connect(&shown_, &QListWidget::itemClicked, this,
+            [this] { person_.Selects(model_, shown_.currentRow()); });
+  }
+
+ private:
+  void RefreshContent() override {
+    const QSignalBlocker quiet(shown_);
+    QStringList items;
+    for (const std::string& item : model_.Items()) items << ToQt(item);
+    if (items != items_) {
+      shown_.clear();
+      shown_.addItems(items);
+      items_ = items;
+    }
+    shown_.setCurrentRow(model_.Index());
+    shown_.setAccessibleName(Plain(model_.Caption()));
+  }
+
+  QStringList items_;
+};
+
+// ---- Buttons ----
+
+class CommandView final : public ViewOf<Command, QPushButton> {
+ public:
+  CommandView(Command& command, const Person& person, QWidget& parent)
+      : ViewOf(command, new QPushButton(&parent), person) {
+    shown_.setAutoDefault(false);
+    connect(&shown_, &QPushButton::clicked, this, [this] { person_.Clicks(model_); });
+  }
+
+ private:
+  void RefreshContent() override {
+    shown_.setText(ToQt(model_.Caption()));
+    shown_.setDefault(model_.Owner().DefaultCommand() == &model_);
+  }
+};
+
+class OptionView final : public ViewOf<Option, QRadioButton> {
+ public:
+  OptionView(Option& option, const Person& person, QWidget& parent)
+      : ViewOf(option, new QRadioButton(&parent), person) {
+    // The model says which one is on, so that groups in one frame do not disturb one another.
+    shown_.setAutoExclusive(false);
+    connect(&shown_, &QRadioButton::clicked, this, [this] {
+      shown_.setChecked(model_.IsOn());
+      person_.Clicks(model_);
+    });
+  }
+
+ private:
+  // The arrow keys walk the options of the group, as they do in exclusive buttons.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      const bool on = key == Qt::Key_Down || key == Qt::Key_Right;
+      if (on || key == Qt::Key_Up || key == Qt::Key_Left) {
+        Walk(on ? 1 : -1);
+        return true;
+      }
+    }
+    return ControlView::eventFilter(object, event);
+  }
+
+  void Walk(int step) {
+    const std::vector<Option*>& options = model_.Group().Options();
+    const auto count = static_cast<int>(options.size());
+    auto at = static_cast<int>(std::find(options.begin(), options.end(), &model_) -
+                               options.begin());
+    for (int tried = 1; tried < count; ++tried) {
+      at = (at + step + count) % count;
+      Option& next = *options[static_cast<std::size_t>(at)];
+      if (next.CanFocus()) {
+        person_.Clicks(next);
+        return;
+      }
+    }
+  }
+
+  void RefreshContent() override {
+    shown_.setText(ToQt(model_.Caption()));
+    shown_.setChecked(model_.IsOn());
+  }
+};
+
+class CheckView final : public ViewOf<CheckBox, QCheckBox> {
+ public:
+  CheckView(CheckBox& check, const Person& person, QWidget& parent)
+      : ViewOf(check, new QCheckBox(&parent), person) {
+    connect(&shown_, &QCheckBox::clicked, this, [this] {
+      shown_.setChecked(model_.IsOn());
+      person_.Clicks(model_);
+    });
+  }
+
+ private:
+  void RefreshContent() override {
+    shown_.setText(ToQt(model_.Caption()));
+    shown_.setChecked(model_.IsOn());
+  }
+};
+
+class SpinView final : public ViewOf<SpinButton, QWidget> {
+ public:
+  SpinView(SpinButton& spin, const Person& person, QWidget& parent)
+      : ViewOf(spin, new QWidget(&parent), person) {
+    auto* column = new QVBoxLayout(&shown_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    for (const bool up : {true, false}) {
+      auto* button = new QToolButton(&shown_);
+      button->setArrowType(up ? Qt::UpArrow : Qt::DownArrow);
+      button->setAutoRepeat(true);
+      button->setFocusPolicy(Qt::NoFocus);
+      button->setFixedHeight(shown_.fontMetrics().height() * 3 / 4);
+      button->setAccessibleName((up ? tr("Increase %1") : tr("Decrease %1"))
+                                    .arg(Plain(spin.Field().Caption())));
+      connect(button, &QToolButton::clicked, this, [this, up] { person_.Spins(model_, up); });
+      column->addWidget(button);
+    }
+  }
+
+ private:
+  void RefreshContent() override {}
+};
+
+class ScrollView final : public ViewOf<ScrollBar, QScrollBar> {
+ public:
+  ScrollView(ScrollBar& bar, const Person& person, QWidget& parent)
+      : ViewOf(bar, new QScrollBar(Qt::Horizontal, &parent), person) {
+    shown_.setRange(bar.Least(), bar.Most());
+    shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * 24);
+    shown_.setFocusPolicy(Qt::StrongFocus);
+    connect(&shown_, &QScrollBar::valueChanged, this,
+            [this](int value) { person_.Scrolls(model_, value); });
+  }
+
+ private:
+  void RefreshContent() override {
+    const QSignalBlocker quiet(shown_);
+    shown_.setValue(model_.Value());
+    shown_.setAccessibleName(Plain(model_.Caption()));
+  }
+};
+
+// ---- What takes no focus ----
+
+class LabelView final : public ViewOf<Label, QLabel> {
+ public:
+  LabelView(Label& label, const Person& person, QWidget& parent)
+      : ViewOf(label, new QLabel(&parent), person) {
+    shown_.setTextFormat(Qt::PlainText);
+    if (label.onClick) shown_.setCursor(Qt::PointingHandCursor);
+  }
+
+ private:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonRelease && model_.onClick) {
+      person_.Clicks(model_);
+      return true;
+    }
+    return ControlView::eventFilter(object, event);
+  }
+
+  void RefreshContent() override {
+    constexpr int longLine = 70;  // characters, beyond which a text is broken into lines
+    shown_.setText(shown_.buddy() != nullptr ? ToQt(model_.Caption()) : Plain(model_.Caption()));
+    shown_.setWordWrap(shown_.text().size() > longLine);
+    if (shown_.wordWrap()) shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * longLine);
+    QFont font = shown_.font();
+    if (model_.FontSize() > 0) font.setPointSize(model_.FontSize());
+    font.setBold(model_.IsHeading());
+    shown_.setFont(font);
+  }
+};
+
+class PictureView final : public ViewOf<Picture, PictureWidget> {
+ public:
+  PictureView(Picture& picture, const Person& person, QWidget& parent)
+      : ViewOf(picture, new PictureWidget(&parent), person) {
+    if (picture.onClick) shown_.setCursor(Qt::PointingHandCursor);
+  }
+
+ private:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonRelease && model_.onClick) {
+      person_.Clicks(model_);
+      return true;
+    }
+    return ControlView::eventFilter(object, event);
+  }
+
+  void RefreshContent() override {
+    shown_.Draw(model_.Shown());
+    shown_.setAccessibleName(Plain(model_.Caption()));
+    shown_.setAccessibleDescription(Plain(model_.Caption()));
+  }
+};
+
+class FrameView final : public ViewOf<Frame, QGroupBox> {
+ public:
+  FrameView(Frame& frame, const Person& person, QWidget& parent)
+      : ViewOf(frame, new QGroupBox(&parent), person) {}
+
+ private:
+  void RefreshContent() override { shown_.setTitle(ToQt(model_.Caption())); }
+};
+
+class PageBrowser final : public ViewOf<PageView, QTextBrowser> {
+ public:
+  PageBrowser(PageView& page, const Person& person, QWidget& parent)
+      : ViewOf(page, new QTextBrowser(&parent), person) {
+    shown_.setOpenExternalLinks(true);
+    shown_.setAccessibleName(tr("Help page"));
+    connect(&shown_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
+      person_.Arrives(model_, FromQt(source.isLocalFile() ? source.toLocalFile()
+                                                         : source.toString()));
+    });
+  }
+
+ private:
+  void RefreshContent() override {
+    switch (model_.TakeStep()) {
+      case PageView::Step::None: break;
+      case PageView::Step::Back: shown_.backward(); break;
+      case PageView::Step::Forward: shown_.forward(); break;
+      case PageView::Step::Reload: {
+        const QUrl url = QUrl::fromUserInput(ToQt(model_.Address()), {}, QUrl::AssumeLocalFile);
+        if (shown_.source() == url)
+          shown_.reload();
+        else
+          shown_.setSource(url);
+        break;
+      }
+    }
+  }
+};
+
+}  // namespace
+
+// ---- ControlView ----
+
+ControlView::ControlView(Control& control, QWidget& widget, const Person& person)
+    : person_(person), control_(control), widget_(widget) {
+  widget.setObjectName(ToQt(control.Name()));
+  widget.installEventFilter(this);
+}
+
+void ControlView::Detach() {
+  widget_.removeEventFilter(this);
+  widget_.disconnect(this);
+}
+
+void ControlView::Refresh() {
+  widget_.setVisible(control_.IsVisible());
+  widget_.setEnabled(control_.IsEnabled());
+  RefreshColors();
+  RefreshContent();
+}
+
+bool ControlView::eventFilter(QObject* object, QEvent* event) {
+  auto* focusable = dynamic_cast<FocusControl*>(&control_);
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      if (focusable != nullptr && !focusable->HasFocus()) person_.Focuses(*focusable);
+      break;
+    case QEvent::KeyPress:
+      if (const auto key = KeyOf(*static_cast<QKeyEvent*>(event)); focusable != nullptr && key) {
+        person_.Presses(control_.Owner(), *key);
+        return true;
+      }
+      break;
+    default: break;
+  }
+  return QObject::eventFilter(object, event);
+}
+
+void ControlView::RefreshColors() {
+  const bool field = control_.GetKind() == Control::Kind::Text ||
+                     control_.GetKind() == Control::Kind::Combo ||
+                     control_.GetKind() == Control::Kind::List;
+  const Color usual = field ? Color::Window() : Color::ButtonFace();
+  const auto* text = dynamic_cast<const TextField*>(&control_);
+  const bool result = text != nullptr && text->IsResult();
+  if (control_.Back() == usual && control_.Fore() == Color::Text() && !result) {
+    widget_.setPalette(QPalette());
+    widget_.setAutoFillBackground(false);
+    return;
+  }
+  QPalette palette;
+  const auto ground = field ? QPalette::Base : QPalette::Window;
+  const auto letters = field ? QPalette::Text : QPalette::WindowText;
+  if (control_.Back().role == Color::Role::Fixed) {
+    palette.setColor(ground, QColor::fromRgb(control_.Back().rgb));
+    palette.setColor(letters, Contrast(palette.color(ground)));
+  } else if (control_.Back().role == Color::Role::ButtonFace || result) {
+    palette.setColor(ground, QPalette().color(QPalette::Window));
+  } else {
+    palette.setColor(ground, QPalette().color(QPalette::Base));
+  }
+  if (control_.Fore().role == Color::Role::Fixed)
+    palette.setColor(letters, Readable(QColor::fromRgb(control_.Fore().rgb), palette.color(ground)));
+  widget_.setPalette(palette);
+  widget_.setAutoFillBackground(control_.Back() != usual);
+}
+
+std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& person,
+                                             QWidget& parent) {
+  switch (control.GetKind()) {
+    case Control::Kind::Text:
+      return std::make_unique<TextView>(static_cast<TextField&>(control), person, parent);
+    case Control::Kind::Combo:
+      return std::make_unique<ComboView>(static_cast<Combo&>(control), person, parent);
+    case Control::Kind::List:
+      return std::make_unique<ListView>(static_cast<ListBox&>(control), person, parent);
+    case Control::Kind::Option:
+      return std::make_unique<OptionView>(static_cast<Option&>(control), person, parent);
+    case Control::Kind::Check:
+      return std::make_unique<CheckView>(static_cast<CheckBox&>(control), person, parent);
+    case Control::Kind::Command:
+      return std::make_unique<CommandView>(static_cast<Command&>(control), person, parent);
+    case Control::Kind::Label:
+      return std::make_unique<LabelView>(static_cast<Label&>(control), person, parent);
+    case Control::Kind::Picture:
+      return std::make_unique<PictureView>(static_cast<Picture&>(control), person, parent);
+    case Control::Kind::Frame:
+      return std::make_unique<FrameView>(static_cast<Frame&>(control), person, parent);
+    case Control::Kind::Spin:
+      return std::make_unique<SpinView>(static_cast<SpinButton&>(control), person, parent);
+    case Control::Kind::Scroll:
+      return std::make_unique<ScrollView>(static_cast<ScrollBar&>(control), person, parent);
+    case Control::Kind::Grid:
+      return MakeGridView(static_cast<Grid&>(control), person, parent);
+    case Control::Kind::Page:
+      return std::make_unique<PageBrowser>(static_cast<PageView&>(control), person, parent);
+    case Control::Kind::Timer: break;
+  }
+  return nullptr;
+}
+
+}  // namespace korvane

@@ -1,0 +1,22 @@
+// Korvane: the desktop program.
+
+#include <QApplication>
+#include <QIcon>
+
+#include "shell/window_catalogue.h"
+#include "toolkit/qt_platform.h"
+#include "toolkit/text.h"
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(korvane::kProgramName);
+  QApplication::setDesktopFileName("korvane");
+  QApplication::setQuitOnLastWindowClosed(false);  // the session knows when the last one has gone
+
+  korvane::QtPlatform platform;
+  korvane::Session session(platform, korvane::WindowCatalogue(),
+                           korvane::FromQt(QApplication::applicationDirPath()));
+  platform.Serve(session);
+  session.Handle([&session] { session.Show("MAINFORM"); });
+  return session.Windows().empty() ? 0 : QApplication::exec();
+}
