@@ -43,34 +43,38 @@ Double DiameterOf(Double area) { return 2 * Sqrt(area / pi); }
 
 enum class Edge { Sharp, ReEntrant, Square, Round };
 
+constexpr double width = 76, height = 44;
+
 /// The wall above the opening; the one below is its mirror image.
 std::vector<Path> UpperWall(Edge edge) {
+  const auto solid = [](std::vector<Point> outline) {
+    outline.push_back(outline.front());
+    return Path{std::move(outline), Ink::Line, Ink::Body};
+  };
   switch (edge) {
-    case Edge::Sharp: return {{{{44, 2}, {58, 2}, {58, 20}, {44, 13}, {44, 2}}, Ink::Line, Ink::Body}};
+    case Edge::Sharp: return {solid({{36, 1}, {48, 1}, {48, 16}, {36, 10}})};
     case Edge::ReEntrant:
-      return {{{{44, 2}, {58, 2}, {58, 20}, {44, 20}, {44, 2}}, Ink::Line, Ink::Body},
-              {{{24, 16}, {44, 16}, {44, 20}, {24, 20}, {24, 16}}, Ink::Line, Ink::Body}};
-    case Edge::Square: return {{{{44, 2}, {58, 2}, {58, 20}, {44, 20}, {44, 2}}, Ink::Line, Ink::Body}};
+      return {solid({{36, 1}, {48, 1}, {48, 16}, {36, 16}}),
+              solid({{18, 12}, {36, 12}, {36, 16}, {18, 16}})};
+    case Edge::Square: return {solid({{36, 1}, {48, 1}, {48, 16}, {36, 16}})};
     case Edge::Round: {
-      Path wall{{{44, 2}, {58, 2}, {58, 20}}, Ink::Line, Ink::Body};
-      for (const Point& point : Arc({58, 6}, 14, 90, 180)) wall.points.push_back(point);
-      wall.points.push_back({44, 2});
-      return {wall};
+      std::vector<Point> outline = {{36, 1}, {48, 1}};
+      for (const Point& point : Arc({48, 4}, 12, 90, 180)) outline.push_back(point);
+      return {solid(std::move(outline))};
     }
   }
   return {};
 }
 
 Drawing Orifice(Edge edge) {
-  constexpr double width = 90, height = 60;
   Drawing drawing{width, height, {}};
   for (Path wall : UpperWall(edge)) {
     drawing.shapes.emplace_back(wall);
     for (Point& point : wall.points) point.y = height - point.y;
     drawing.shapes.emplace_back(wall);
   }
-  drawing.shapes.emplace_back(Path{{{6, 30}, {84, 30}}, Ink::Accent, {}, 1.5});
-  drawing.shapes.emplace_back(Path{{{76, 26}, {84, 30}, {76, 34}}, Ink::Accent, {}, 1.5});
+  drawing.shapes.emplace_back(Path{{{4, 22}, {72, 22}}, Ink::Accent, {}, 1.5});
+  drawing.shapes.emplace_back(Path{{{66, 18}, {72, 22}, {66, 26}}, Ink::Accent, {}, 1.5});
   return drawing;
 }
 

@@ -20,7 +20,13 @@ class Arranger {
 
   QLayout* Build(const Layout& layout, QWidget& parent) {
     switch (layout.kind) {
-      case Layout::Kind::Row: return Fill(new QHBoxLayout, layout, parent);
+      case Layout::Kind::Row: {
+        auto* row = new QHBoxLayout;
+        // Blocks side by side stand further apart than buttons do.
+        if (std::any_of(layout.parts.begin(), layout.parts.end(), IsBlock))
+          row->setSpacing(parent.fontMetrics().height());
+        return Fill(row, layout, parent);
+      }
       case Layout::Kind::Form: return FormOf(layout, parent);
       case Layout::Kind::Grid: return GridOf(layout, parent);
       case Layout::Kind::Column: {
@@ -40,6 +46,10 @@ class Arranger {
   }
 
  private:
+  static bool IsBlock(const Layout& part) {
+    return part.kind == Layout::Kind::Column || part.kind == Layout::Kind::Frame;
+  }
+
   QLayout* Fill(QBoxLayout* box, const Layout& layout, QWidget& parent) {
     for (const Layout& part : layout.parts) Add(*box, part, parent);
     return box;

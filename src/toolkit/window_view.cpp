@@ -37,8 +37,10 @@ QWidget* WindowView::WidgetOf(Control& control, QWidget& parent) {
   std::unique_ptr<ControlView>& view = views_[&control];
   if (!view) {
     view = MakeControlView(control, person_, parent);
-    if (!window_->HasOwnSize()) {
-      // A field that hides keeps its place, so that the window does not jump under the mouse.
+    view->Refresh();  // sizes follow from what it shows
+    if (!window_->HasOwnSize() || control.IsVisible()) {
+      // A field that hides keeps its place, so that the window does not jump under the mouse. What
+      // a window of its own size hides from the start lies outside of it.
       QSizePolicy policy = view->Widget().sizePolicy();
       policy.setRetainSizeWhenHidden(true);
       view->Widget().setSizePolicy(policy);
@@ -61,6 +63,7 @@ void WindowView::MakeTimers() {
 void WindowView::MakeMenu(MenuBar& menu) {
   menuBar_ = new QMenuBar(this);
   menuBar_->setNativeMenuBar(false);
+  layout()->setContentsMargins(0, 0, 0, 0);  // a menu bar and nothing below it
   layout()->setMenuBar(menuBar_);
   std::vector<QMenu*> path;  // the open submenu at each depth
   std::vector<MenuEntry>& entries = menu.Entries();

@@ -1,0 +1,111 @@
+// korvane-gallery FOLDER [--dark]: a picture of every window in both unit systems, with a worked
+// example in it. Fails, and says where, if a control is cut off.
+
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+#include "shell/window_catalogue.h"
+#include "toolkit/qt_platform.h"
+#include "toolkit/text.h"
+
+namespace korvane {
+namespace {
+
+/// What is typed into a window before its picture is taken, and where Enter is pressed then.
+struct Example {
+  const char* window;
+  std::vector<std::pair<const char*, const char*>> us;
+  std::vector<std::pair<const char*, const char*>> metric;
+  const char* enter;
+};
+
+const std::vector<Example>& Examples() {
+  static const std::vector<Example> examples = {
+      {"FlowCalc", {{"dia", "1"}, {"pressure", "1"}}, {{"dia", "0.1"}, {"pressure", "250"}}, "dia"},
+  };
+  return examples;
+}
+
+void Work(Session& session, Window& window) {
+  const Person person(session);
+  for (const Example& example : Examples()) {
+    if (window.Name() != example.window) continue;
+    for (const auto& [name, text] : session.MetricUnits ? example.metric : example.us)
+      person.Types(dynamic_cast<FocusControl&>(*window.Find(name)), text);
+    person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
+    person.Presses(window, Key::Enter);
+  }
+}
+
+/// Widgets that have less room than they need to show what they hold.
+bool IsCutOff(const QWidget& view) {
+  bool cut = false;
+  for (const QWidget* child : view.findChildren<QWidget*>()) {
+    const QSize least = child->minimumSizeHint();
+    if (!child->isVisible() || child->objectName().isEmpty() || !least.isValid()) continue;
+    if (child->width() >= least.width() && child->height() >= least.height()) continue;
+    std::fprintf(stderr, "%s: %s is %d x %d, and needs %d x %d\n", qPrintable(view.objectName()),
+                 qPrintable(child->objectName()), child->width(), child->height(), least.width(),
+                 least.height());
+    cut = true;
+  }
+  return cut;
+}
+
+void DarkenPalette() {
+  QPalette palette(QColor(0x35, 0x35, 0x35));
+  palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+  palette.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+  QApplication::setPalette(palette);
+}
+
+int Draw(const QDir& folder) {
+  bool cut = false;
+  QtPlatform platform;
+  for (const bool metric : {false, true}) {
+    Session session(platform, WindowCatalogue(), FromQt(QApplication::applicationDirPath()));
+    platform.Serve(session);
+    session.ShowsSplash = false;
+    platform.SaveSetting("Units", metric ? "SI" : "US");
+    session.Handle([&] { session.Show("MAINFORM"); });
+    for (const WindowUnit& unit : WindowCatalogue()) {
+      session.AboutMode = true;  // the splash window in its larger form
+      session.Handle([&] { session.Show(unit.name); });
+      Window* window = session.Find(unit.name);
+      if (window == nullptr) continue;
+      Work(session, *window);
+      QApplication::processEvents();
+      WindowView& view = *platform.View(*window);
+      cut = IsCutOff(view) || cut;
+      const QString file = QString("%1-%2.png").arg(unit.name, metric ? "SI" : "US");
+      if (!view.grab().save(folder.filePath(file))) return 1;
+      if (window->Menu() == nullptr) session.Handle([&] { session.Unload(*window); });
+    }
+    session.DropWindows();
+  }
+  return cut ? 1 : 0;
+}
+
+}  // namespace
+}  // namespace korvane
+
+int main(int argc, char** argv) {
+  const QTemporaryDir settings;
+  qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() < 2) {
+    std::fprintf(stderr, "korvane-gallery FOLDER [--dark]\n");
+    return 2;
+  }
+  if (arguments.contains("--dark")) korvane::DarkenPalette();
+  QDir().mkpath(arguments[1]);
+  return korvane::Draw(QDir(arguments[1]));
+}
