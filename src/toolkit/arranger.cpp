@@ -20,13 +20,7 @@ class Arranger {
 
   QLayout* Build(const Layout& layout, QWidget& parent) {
     switch (layout.kind) {
-      case Layout::Kind::Row: {
-        auto* row = new QHBoxLayout;
-        // Blocks side by side stand further apart than buttons do.
-        if (std::any_of(layout.parts.begin(), layout.parts.end(), IsBlock))
-          row->setSpacing(parent.fontMetrics().height());
-        return Fill(row, layout, parent);
-      }
+      case Layout::Kind::Row: return Fill(new QHBoxLayout, layout, parent);
       case Layout::Kind::Form: return FormOf(layout, parent);
       case Layout::Kind::Grid: return GridOf(layout, parent);
       case Layout::Kind::Column: {
@@ -51,7 +45,12 @@ class Arranger {
   }
 
   QLayout* Fill(QBoxLayout* box, const Layout& layout, QWidget& parent) {
-    for (const Layout& part : layout.parts) Add(*box, part, parent);
+    const bool row = layout.kind == Layout::Kind::Row;
+    for (const Layout& part : layout.parts) {
+      // Blocks side by side stand further apart than buttons do.
+      if (row && box->count() > 0 && IsBlock(part)) box->addSpacing(parent.fontMetrics().height());
+      Add(*box, part, parent);
+    }
     return box;
   }
 

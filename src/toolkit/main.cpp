@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(korvane::kProgramName);
   QApplication::setDesktopFileName("korvane");
+  QApplication::setWindowIcon(QIcon(":/korvane.svg"));
   QApplication::setQuitOnLastWindowClosed(false);  // the session knows when the last one has gone
 
   korvane::QtPlatform platform;
