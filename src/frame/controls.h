@@ -208,7 +208,8 @@ class TextField : public CaptionedControl {
   void SelectAll();
   bool TakeSelectAll() { return std::exchange(selectAll_, false); }
 
-  /// Set apart from inputs on the screen; its text can be selected and copied, but not typed.
+  /// Only shows a result: the focus does not stay here, and the screen sets it apart from inputs.
+  /// The person may still select and copy the text.
   bool IsResult() const { return result_; }
   void MakeResult() { result_ = true; }
 

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -67,9 +68,18 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
     shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * (number ? 18 : 40));
     connect(&shown_, &QLineEdit::textEdited, this,
             [this](const QString& text) { person_.Edits(model_, FromQt(text)); });
+    // A right click for the Copy command leaves the focus where it is; see eventFilter for the left.
+    if (field.IsResult()) shown_.setFocusPolicy(Qt::NoFocus);
   }
 
  private:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (model_.IsResult() && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+      person_.Focuses(model_);
+    return ControlView::eventFilter(object, event);
+  }
+
   void RefreshContent() override {
     const QString text = ToQt(model_.Text());
     if (shown_.text() != text) shown_.setText(text);

@@ -7,8 +7,9 @@
 #include "toolkit/qt_platform.h"
 #include "toolkit/text.h"
 
-int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+int main(int, char** argv) {
+  int count = 1;  // the program reads no command line, the toolkit's options included
+  QApplication app(count, argv);
   QApplication::setApplicationName(korvane::kProgramName);
   QApplication::setDesktopFileName("korvane");
   QApplication::setWindowIcon(QIcon(":/korvane.svg"));

@@ -45,6 +45,7 @@ void NumberEdit::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void NumberEdit::contextMenuEvent(QContextMenuEvent* event) {
+  if (isReadOnly() && !hasSelectedText()) selectAll();
   const std::unique_ptr<QMenu> menu(createStandardContextMenu());
   if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
     paste->disconnect();
