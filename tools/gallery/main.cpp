@@ -2,7 +2,10 @@
 // example in it. Fails, and says where, if a control is cut off.
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -42,16 +45,40 @@ void Work(Session& session, Window& window) {
   }
 }
 
-/// Widgets that have less room than they need to show what they hold.
+/// The room that a widget needs to show all that it holds.
+QSize NeededSize(const QWidget& widget) {
+  const QSize least = widget.minimumSizeHint();
+  if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
+    return label->fontMetrics()
+        .boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text())
+        .size();
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return combo->sizeHint();
+  // A number must be seen whole; addresses scroll.
+  if (const auto* field = qobject_cast<const QLineEdit*>(&widget);
+      field && field->alignment().testFlag(Qt::AlignRight)) {
+    constexpr int margins = 4;  // pixels, within the frame
+    const int frame = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field);
+    const int text = field->fontMetrics().horizontalAdvance(field->text());
+    return least.expandedTo({text + margins + 2 * frame, 0});
+  }
+  return least;
+}
+
+/// Tells, and answers whether there are, widgets with less room than they need.
 bool IsCutOff(const QWidget& view) {
   bool cut = false;
   for (const QWidget* child : view.findChildren<QWidget*>()) {
-    const QSize least = child->minimumSizeHint();
-    if (!child->isVisible() || child->objectName().isEmpty() || !least.isValid()) continue;
-    if (child->width() >= least.width() && child->height() >= least.height()) continue;
-    std::fprintf(stderr, "%s: %s is %d x %d, and needs %d x %d\n", qPrintable(view.objectName()),
-                 qPrintable(child->objectName()), child->width(), child->height(), least.width(),
-                 least.height());
+    const bool isCaption = qobject_cast<const QLabel*>(child) != nullptr;
+    if (!child->isVisible() || (child->objectName().isEmpty() && !isCaption)) continue;
+    const QSize needed = NeededSize(*child);
+    const bool fits = child->width() >= needed.width() && child->height() >= needed.height();
+    const bool inside = child->parentWidget()->rect().contains(child->geometry());
+    const bool entriesLeftOver = child->objectName() == "qt_menubar_ext_button";
+    if (fits && inside && !entriesLeftOver) continue;
+    const QString name = isCaption ? static_cast<const QLabel*>(child)->text() : child->objectName();
+    std::fprintf(stderr, "%s: \"%s\" is %d x %d%s, and needs %d x %d\n",
+                 qPrintable(view.objectName()), qPrintable(name), child->width(), child->height(),
+                 inside ? "" : ", beyond its parent's edge", needed.width(), needed.height());
     cut = true;
   }
   return cut;
@@ -61,6 +88,9 @@ void DarkenPalette() {
   QPalette palette(QColor(0x35, 0x35, 0x35));
   palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
   palette.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+  palette.setColor(QPalette::Link, QColor(0x6C, 0xB4, 0xEE));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
   QApplication::setPalette(palette);
 }
 
