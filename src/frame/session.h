@@ -102,6 +102,9 @@ class Session {
  private:
   const WindowUnit* Unit(std::string_view name) const;
   Window& Load(std::string_view name);
+  using Place = std::vector<std::unique_ptr<Window>>::iterator;
+  Place PlaceOf(const Window& window);
+  void Discard(Window& window);  // without its unload handler
   void ActivateFront();
   void RunPendingTabs();
 
