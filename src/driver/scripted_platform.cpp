@@ -64,7 +64,7 @@ void ScriptedPlatform::WindowShown(Window& window, bool loaded) {
 void ScriptedPlatform::WindowUnloaded(Window& window) { Notice("unloaded " + window.Name()); }
 
 void ScriptedPlatform::RunModal(Window& window) {
-  if (onModal) onModal(window);
+  if (onModal && window.IsShown()) onModal(window);
 }
 
 void ScriptedPlatform::Show(const Message& message) {

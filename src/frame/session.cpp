@@ -76,6 +76,7 @@ void Session::ShowModal(std::string_view name) {
   if (window == nullptr) window = &Load(name);
   modal_.push_back(window);
   Show(*window);
+  RunPendingTabs();  // the first field may pass the focus on
   Refresh();
   platform_.RunModal(*window);
   std::erase(modal_, window);
