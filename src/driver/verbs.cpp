@@ -247,8 +247,7 @@ std::string Verbs::Enter() {
   auto& control = TakeUsable<FocusControl>("a control that takes the focus");
   Window& window = control.Owner();
   const Session::Hold hold(session_);
-  Person(session_).Focuses(control);
-  if (window.IsShown()) Person(session_).Presses(window, Key::Enter);
+  if (Person(session_).Focuses(control)) Person(session_).Presses(window, Key::Enter);
   return Nothing();
 }
 

@@ -176,17 +176,20 @@ void Session::ShowHelp() {
 
 // ---- Events ----
 
-void Session::Handle(const Handler& event) {
+bool Session::Handle(const Handler& event) {
   const Hold hold(*this);
+  bool done = true;
   try {
     event();
     RunPendingTabs();
   } catch (const RuntimeFailure& failure) {
+    done = false;
     pendingTabs_ = 0;
     Refresh();
     platform_.Fail(failure);
   }
   Refresh();
+  return done;
 }
 
 void Session::RunPendingTabs() {

@@ -90,8 +90,8 @@ class Session {
   };
 
   /// One event from outside: runs the handler, then the Tab keys that it simulated, shows the error
-  /// box if it failed, and draws what changed.
-  void Handle(const Handler& event);
+  /// box if it failed, and draws what changed. False if it failed.
+  bool Handle(const Handler& event);
   /// A simulated Tab key, which acts when the running handler has ended.
   void SendTab() { ++pendingTabs_; }
   void Refresh();
