@@ -160,6 +160,7 @@ std::string Verbs::Units() {
 }
 
 std::string Verbs::Data() {
+  if (rest_.empty()) throw NotUnderstood{"no folder"};
   std::string folder = std::filesystem::absolute(Rest()).string();
   if (!folder.ends_with(kSeparator)) folder += kSeparator;
   session_.DataPath = folder;
@@ -237,7 +238,8 @@ std::string Verbs::Focus() {
 
 std::string Verbs::Type() {
   auto& control = TakeUsable<CaptionedControl>("a field");
-  if (control.GetKind() != Control::Kind::Text && control.GetKind() != Control::Kind::Combo)
+  const auto* combo = dynamic_cast<const Combo*>(&control);
+  if (control.GetKind() != Control::Kind::Text && (combo == nullptr || !combo->IsEditable()))
     throw NotUnderstood{"not a field"};
   Person(session_).Types(control, Rest());
   return Nothing();
@@ -263,7 +265,12 @@ std::string Verbs::PressKey() {
 }
 
 std::string Verbs::Click() {
-  Person(session_).Clicks(TakeUsable<Control>("a control"));
+  auto& control = TakeUsable<Control>("a control");
+  const bool shows = control.GetKind() == Control::Kind::Label ||
+                     control.GetKind() == Control::Kind::Picture;
+  if (!shows && dynamic_cast<const FocusControl*>(&control) == nullptr)
+    throw NotUnderstood{"not a control that can be clicked"};
+  Person(session_).Clicks(control);
   return Nothing();
 }
 
