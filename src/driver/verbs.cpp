@@ -173,7 +173,9 @@ std::string Verbs::Menu() {
   MenuEntry* entry = main != nullptr ? main->Menu()->Find(Rest()) : nullptr;
   if (entry == nullptr) throw NotUnderstood{"no such menu entry"};
   if (!main->Menu()->IsReachable(*entry)) throw NotUnderstood{"disabled"};
-  Person(session_).Picks(*entry);
+  const Person person(session_);
+  person.Activates(*main);  // a menu is clicked in the window in front
+  person.Picks(*entry);
   if (session_.Active() != nullptr) interpreter_.inUse_ = session_.Active()->Name();
   return Nothing();
 }

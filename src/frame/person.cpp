@@ -81,6 +81,7 @@ void Person::Clicks(Control& control) const {
     if (!Focuses(*target)) return;
   }
   Handle([&] {
+    session_.Activate(control.Owner());
     if (auto* command = dynamic_cast<Command*>(&control)) command->Click();
     else if (auto* option = dynamic_cast<Option*>(&control)) option->Click();
     else if (auto* check = dynamic_cast<CheckBox*>(&control)) check->Click();
