@@ -40,8 +40,7 @@ constexpr const char* kNastyTexts[] = {
     "\"",
     "1\"2",
     "1/2",
-    "\xC3\xA9\xE2\x88\x92"
-    "5",
+    "\u00E9\u22125",
     "\xFF\xFE",
     "a\tb",
     "nil",

@@ -331,16 +331,9 @@ TEST(CleanPaste, BringsNumbersAsTheyAreMeant) {
                             {" \t\r\n ", ""},
                             {"  12.5 \r\n", "12.5"},
                             {"1\n2\r\n3", "123"},
-                            {"\xE2\x88\x92"
-                             "5",
-                             "-5"},
-                            {"\xC2\xA0"
-                             "1\xE2\x80\xAF"
-                             "000\xE2\x80\x89",
-                             "1 000"},
-                            {"\xE2\x80\x87"
-                             "7",
-                             "7"},
+                            {"\u22125", "-5"},
+                            {"\u00A01\u202F000\u2009", "1 000"},
+                            {"\u20077", "7"},
                             {"a \xC3\xA9\xE2\x88", "a \xC3\xA9\xE2\x88"}})
     EXPECT_EQ(CleanPaste(paste.pasted), paste.text) << paste.pasted;
 }
