@@ -104,7 +104,7 @@ Session::Place Session::PlaceOf(const Window& window) {
 }
 
 void Session::Discard(Window& window) {
-  const Place place = PlaceOf(window);
+  const auto place = PlaceOf(window);
   if (place == windows_.end()) return;
   window.shown_ = false;
   gone_.push_back(std::move(*place));
@@ -124,7 +124,7 @@ void Session::Unload(std::string_view name) {
 void Session::Activate(Window& window) {
   if (active_ == &window || !window.IsShown()) return;
   active_ = &window;
-  const Place place = PlaceOf(window);
+  const auto place = PlaceOf(window);
   std::rotate(windows_.begin(), place, place + 1);
   platform_.WindowActivated(window);
   window.Activated();
