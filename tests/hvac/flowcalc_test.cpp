@@ -83,6 +83,8 @@ struct LoadCase {
   const char* dc;
 };
 
+void PrintTo(const LoadCase& load, std::ostream* out) { *out << load.name; }
+
 constexpr const char* kInvalid = "Invalid data file.";
 constexpr const char* kFault = "Error reading data file.";
 
