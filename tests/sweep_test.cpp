@@ -246,7 +246,7 @@ TEST_P(Sweep, LoadsWhatItSaves) {
 
   const TemporaryFolder folder;
   const auto answered = [&](std::size_t command, const std::string& name) {
-    suite.platform.Queue(ScriptedPlatform::File{folder.File(name)});
+    suite.platform.QueueFile(folder.File(name));
     EXPECT_EQ(UsesAt(command).size(), 1U) << "more than the dialog was told";
   };
   suite.session.Unload(GetParam().window);

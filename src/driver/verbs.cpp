@@ -219,7 +219,7 @@ std::string Verbs::Answer() {
                                      {"cancel", korvane::Answer::Cancel}};
   const std::string_view kind = Word();
   if (kind == "file") {
-    interpreter_.platform_.Queue(ScriptedPlatform::File{Rest()});
+    interpreter_.platform_.QueueFile(Rest());
     return Nothing();
   }
   for (const AnswerName& entry : kAnswers) {

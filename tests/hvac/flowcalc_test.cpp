@@ -24,7 +24,7 @@ class FlowCalcFile : public ::testing::Test {
     suite.person.Types(suite.Get<FocusControl>(name), text);
   }
   Lines Answered(const char* command, const std::string& path) {
-    suite.platform.Queue(ScriptedPlatform::File{path});
+    suite.platform.QueueFile(path);
     suite.person.Clicks(suite.Get(command));
     return suite.Told();
   }
