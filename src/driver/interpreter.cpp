@@ -1,12 +1,15 @@
 #include "driver/interpreter.h"
 
 #include "driver/verbs.h"
-#include "shell/window_catalogue.h"
 
 namespace korvane {
 
-Interpreter::Interpreter(Input input, Output output, std::string programFolder)
-    : input_(std::move(input)), output_(std::move(output)), programFolder_(std::move(programFolder)) {
+Interpreter::Interpreter(Input input, Output output, std::string programFolder,
+                         std::span<const WindowUnit> catalogue)
+    : input_(std::move(input)),
+      output_(std::move(output)),
+      programFolder_(std::move(programFolder)),
+      catalogue_(catalogue) {
   platform_.onModal = [this](Window& modal) { WaitFor(modal); };
   Start();
 }
@@ -18,7 +21,7 @@ void Interpreter::Start() {
   session_.reset();
   platform_.Reset();
   closingReply_.reset();
-  session_ = std::make_unique<Session>(platform_, WindowCatalogue(), programFolder_);
+  session_ = std::make_unique<Session>(platform_, catalogue_, programFolder_);
   session_->ShowsSplash = false;
   session_->Handle([this] { session_->Show("MAINFORM"); });
   inUse_ = "MAINFORM";

@@ -8,6 +8,7 @@
 
 #include "driver/scripted_platform.h"
 #include "frame/session.h"
+#include "shell/window_catalogue.h"
 
 namespace korvane {
 
@@ -17,7 +18,8 @@ class Interpreter {
   using Output = std::function<void(const std::string&)>;     ///< takes a line, and flushes it
 
   /// Starts where the desktop program stands when its main window has opened.
-  Interpreter(Input input, Output output, std::string programFolder);
+  Interpreter(Input input, Output output, std::string programFolder,
+              std::span<const WindowUnit> catalogue = WindowCatalogue());
   ~Interpreter();
 
   /// Reads and answers commands until the input is over.
@@ -37,6 +39,7 @@ class Interpreter {
   Input input_;
   Output output_;
   std::string programFolder_;
+  std::span<const WindowUnit> catalogue_;
   ScriptedPlatform platform_;
   std::unique_ptr<Session> session_;
   std::string inUse_;  // the window that takes commands, while it is open

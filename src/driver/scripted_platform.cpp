@@ -64,42 +64,37 @@ void ScriptedPlatform::WindowShown(Window& window, bool loaded) {
 void ScriptedPlatform::WindowUnloaded(Window& window) { Notice("unloaded " + window.Name()); }
 
 void ScriptedPlatform::RunModal(Window& window) {
-  if (onModal) onModal(window);
+  if (onModal && window.IsShown()) onModal(window);
 }
 
 void ScriptedPlatform::Show(const Message& message) {
   Notice("message " + Escaped(message.title) + " | " + Escaped(message.text));
   // OK is the only button, so that whatever was queued for a box answers it; a file waits on.
-  if (!answers_.empty() && std::holds_alternative<Answer>(answers_.front())) answers_.pop_front();
+  if (!answers_.empty() && !answers_.front().file) answers_.pop_front();
+}
+
+ScriptedPlatform::Reply ScriptedPlatform::TakeReply() {
+  if (answers_.empty()) return {};
+  Reply reply = std::move(answers_.front());
+  answers_.pop_front();
+  return reply;
 }
 
 Answer ScriptedPlatform::Ask(const Question& question) {
   Notice("ask " + Escaped(question.title) + " | " + Escaped(question.text));
-  if (answers_.empty()) return Answer::Cancel;
-  const auto answer = std::move(answers_.front());
-  answers_.pop_front();
-  const auto* chosen = std::get_if<Answer>(&answer);
-  return chosen != nullptr ? *chosen : Answer::Cancel;
-}
-
-std::optional<std::string> ScriptedPlatform::TakeFile() {
-  if (answers_.empty()) return std::nullopt;
-  const auto answer = std::move(answers_.front());
-  answers_.pop_front();
-  const auto* file = std::get_if<File>(&answer);
-  return file != nullptr ? std::optional(file->path) : std::nullopt;
+  return TakeReply().answer;
 }
 
 std::optional<std::string> ScriptedPlatform::ChooseFile(const FileDialog& dialog) {
   const bool open = dialog.action == FileDialog::Action::Open;
   Notice(std::string("dialog ") + (open ? "open " : "save ") + Escaped(dialog.title) + " | " +
          Escaped(dialog.fileName));
-  return TakeFile();
+  return TakeReply().file;
 }
 
 std::optional<std::string> ScriptedPlatform::ChooseFolder(const std::string& title) {
   Notice("dialog open " + Escaped(title) + " | ");
-  return TakeFile();
+  return TakeReply().file;
 }
 
 void ScriptedPlatform::Beep() { Notice("beep"); }

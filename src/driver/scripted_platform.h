@@ -7,7 +7,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <variant>
 
 #include "frame/platform.h"
 
@@ -20,12 +19,10 @@ class ScriptedPlatform final : public Platform {
   /// Runs while a window is modal, until that window is hidden or unloaded.
   std::function<void(Window&)> onModal;
 
-  struct File {
-    std::string path;
-  };
   /// The next box or dialog is answered so. With nothing queued a message is answered OK, a question
   /// and a dialog Cancel.
-  void Queue(std::variant<Answer, File> answer) { answers_.push_back(std::move(answer)); }
+  void Queue(Answer answer) { answers_.push_back({answer, std::nullopt}); }
+  void QueueFile(std::string path) { answers_.push_back({Answer::Cancel, std::move(path)}); }
 
   /// Forgets settings, clipboard and queued answers.
   void Reset();
@@ -61,9 +58,13 @@ class ScriptedPlatform final : public Platform {
 
  private:
   void Notice(const std::string& notice) const;
-  std::optional<std::string> TakeFile();
+  struct Reply {
+    Answer answer = Answer::Cancel;
+    std::optional<std::string> file;
+  };
+  Reply TakeReply();
 
-  std::deque<std::variant<Answer, File>> answers_;
+  std::deque<Reply> answers_;
 };
 
 /// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r \t.

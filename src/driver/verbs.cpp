@@ -160,6 +160,7 @@ std::string Verbs::Units() {
 }
 
 std::string Verbs::Data() {
+  if (rest_.empty()) throw NotUnderstood{"no folder"};
   std::string folder = std::filesystem::absolute(Rest()).string();
   if (!folder.ends_with(kSeparator)) folder += kSeparator;
   session_.DataPath = folder;
@@ -172,7 +173,9 @@ std::string Verbs::Menu() {
   MenuEntry* entry = main != nullptr ? main->Menu()->Find(Rest()) : nullptr;
   if (entry == nullptr) throw NotUnderstood{"no such menu entry"};
   if (!main->Menu()->IsReachable(*entry)) throw NotUnderstood{"disabled"};
-  Person(session_).Picks(*entry);
+  const Person person(session_);
+  person.Activates(*main);  // a menu is clicked in the window in front
+  person.Picks(*entry);
   if (session_.Active() != nullptr) interpreter_.inUse_ = session_.Active()->Name();
   return Nothing();
 }
@@ -216,7 +219,7 @@ std::string Verbs::Answer() {
                                      {"cancel", korvane::Answer::Cancel}};
   const std::string_view kind = Word();
   if (kind == "file") {
-    interpreter_.platform_.Queue(ScriptedPlatform::File{Rest()});
+    interpreter_.platform_.QueueFile(Rest());
     return Nothing();
   }
   for (const AnswerName& entry : kAnswers) {
@@ -237,7 +240,8 @@ std::string Verbs::Focus() {
 
 std::string Verbs::Type() {
   auto& control = TakeUsable<CaptionedControl>("a field");
-  if (control.GetKind() != Control::Kind::Text && control.GetKind() != Control::Kind::Combo)
+  const auto* combo = dynamic_cast<const Combo*>(&control);
+  if (control.GetKind() != Control::Kind::Text && (combo == nullptr || !combo->IsEditable()))
     throw NotUnderstood{"not a field"};
   Person(session_).Types(control, Rest());
   return Nothing();
@@ -247,8 +251,7 @@ std::string Verbs::Enter() {
   auto& control = TakeUsable<FocusControl>("a control that takes the focus");
   Window& window = control.Owner();
   const Session::Hold hold(session_);
-  Person(session_).Focuses(control);
-  if (window.IsShown()) Person(session_).Presses(window, Key::Enter);
+  if (Person(session_).Focuses(control)) Person(session_).Presses(window, Key::Enter);
   return Nothing();
 }
 
@@ -264,7 +267,12 @@ std::string Verbs::PressKey() {
 }
 
 std::string Verbs::Click() {
-  Person(session_).Clicks(TakeUsable<Control>("a control"));
+  auto& control = TakeUsable<Control>("a control");
+  const bool shows = control.GetKind() == Control::Kind::Label ||
+                     control.GetKind() == Control::Kind::Picture;
+  if (!shows && dynamic_cast<const FocusControl*>(&control) == nullptr)
+    throw NotUnderstood{"not a control that can be clicked"};
+  Person(session_).Clicks(control);
   return Nothing();
 }
 

@@ -45,7 +45,7 @@ Record IndexRecord(std::string label, Choice& choice) {
           [&choice](const std::string& text) { choice.Select(ToInteger16(Strict(text))); }};
 }
 
-Record WordRecord(std::string label, std::vector<Word> words) {
+Record WordRecord(std::string label, const std::vector<Word>& words) {
   auto value = [words] {
     for (const Word& word : words)
       if (word.option.IsOn()) return word.word;

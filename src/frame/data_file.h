@@ -34,7 +34,7 @@ struct Word {
   Option& option;
   std::string word;
 };
-Record WordRecord(std::string label, std::vector<Word> words);
+Record WordRecord(std::string label, const std::vector<Word>& words);
 
 struct DataFile {
   std::string signature;

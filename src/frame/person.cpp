@@ -5,11 +5,13 @@
 
 namespace korvane {
 
-void Person::Focuses(FocusControl& control) const {
-  Handle([&] {
+bool Person::Focuses(FocusControl& control) const {
+  const Session::Hold hold(session_);
+  const bool done = Handle([&] {
     session_.Activate(control.Owner());
     control.SetFocus();
   });
+  return done && control.Owner().IsShown() && control.CanFocus();
 }
 
 void Person::Edits(TextField& field, std::string text) const {
@@ -26,7 +28,7 @@ void Person::Edits(Combo& combo, std::string text) const {
 
 void Person::Types(FocusControl& control, std::string text) const {
   const Session::Hold hold(session_);
-  Focuses(control);
+  if (!Focuses(control)) return;
   if (auto* field = dynamic_cast<TextField*>(&control)) Edits(*field, std::move(text));
   else if (auto* combo = dynamic_cast<Combo*>(&control)) Edits(*combo, std::move(text));
 }
@@ -76,10 +78,10 @@ void Person::Clicks(Control& control) const {
   const Session::Hold hold(session_);
   if (!control.IsVisible() || !control.IsEnabled()) return;
   if (auto* target = dynamic_cast<FocusControl*>(&control)) {
-    Focuses(*target);
-    if (!control.IsVisible() || !control.IsEnabled()) return;  // leaving the old field changed it
+    if (!Focuses(*target)) return;
   }
   Handle([&] {
+    session_.Activate(control.Owner());
     if (auto* command = dynamic_cast<Command*>(&control)) command->Click();
     else if (auto* option = dynamic_cast<Option*>(&control)) option->Click();
     else if (auto* check = dynamic_cast<CheckBox*>(&control)) check->Click();
@@ -93,13 +95,13 @@ void Person::Clicks(Control& control) const {
 
 void Person::Selects(Choice& choice, int index) const {
   const Session::Hold hold(session_);
-  Focuses(choice);
+  if (!Focuses(choice)) return;
   Handle([&] { choice.Select(index); });
 }
 
 void Person::Spins(SpinButton& spin, bool up) const {
   const Session::Hold hold(session_);
-  Focuses(spin);
+  if (!Focuses(spin)) return;
   Handle([&] {
     const Handler& handler = up ? spin.onUp : spin.onDown;
     if (handler) handler();
@@ -108,19 +110,19 @@ void Person::Spins(SpinButton& spin, bool up) const {
 
 void Person::Scrolls(ScrollBar& bar, int value) const {
   const Session::Hold hold(session_);
-  Focuses(bar);
+  if (!Focuses(bar)) return;
   Handle([&] { bar.SetValue(std::clamp(value, bar.Least(), bar.Most())); });
 }
 
 void Person::Points(Grid& grid, int row, int column) const {
   const Session::Hold hold(session_);
-  Focuses(grid);
+  if (!Focuses(grid)) return;
   Handle([&] { grid.SetCurrent(row, column); });
 }
 
 void Person::RightClicks(Grid& grid) const {
   const Session::Hold hold(session_);
-  Focuses(grid);
+  if (!Focuses(grid)) return;
   Handle([&] {
     if (grid.onRightClick) grid.onRightClick();
   });

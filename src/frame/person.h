@@ -14,7 +14,9 @@ class Person {
   explicit Person(Session& session) : session_(session) {}
 
   // In windows.
-  void Focuses(FocusControl& control) const;
+  /// Whether the control can be used now: leaving the field that had the focus may fail, close the
+  /// window, or hide or disable this control.
+  bool Focuses(FocusControl& control) const;
   /// Changes the text of the field in focus, as by one paste or key; nothing if it is locked.
   void Edits(TextField& field, std::string text) const;
   void Edits(Combo& combo, std::string text) const;
@@ -41,7 +43,7 @@ class Person {
   void Waits(Timer& timer) const;
 
  private:
-  void Handle(const Handler& event) const { session_.Handle(event); }
+  bool Handle(const Handler& event) const { return session_.Handle(event); }
 
   Session& session_;
 };

@@ -46,8 +46,8 @@ Window& Session::Load(std::string_view name) {
   window.Prepare();
   try {
     window.Load();
-  } catch (...) {  // a window that fails to load is not there
-    Unload(window);
+  } catch (...) {  // a window that fails to load is not there, and never was
+    Discard(window);
     throw;
   }
   return window;
@@ -76,6 +76,7 @@ void Session::ShowModal(std::string_view name) {
   if (window == nullptr) window = &Load(name);
   modal_.push_back(window);
   Show(*window);
+  RunPendingTabs();  // the first field may pass the focus on
   Refresh();
   platform_.RunModal(*window);
   std::erase(modal_, window);
@@ -92,19 +93,24 @@ void Session::Hide(Window& window) {
 }
 
 void Session::Unload(Window& window) {
-  const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                  [&window](const auto& w) { return w.get() == &window; });
-  if (found == windows_.end()) return;
+  if (PlaceOf(window) == windows_.end()) return;
   window.Unloaded();
-  const bool wasShown = window.wasShown_;
+  Discard(window);
+}
+
+Session::Place Session::PlaceOf(const Window& window) {
+  return std::find_if(windows_.begin(), windows_.end(),
+                      [&window](const auto& w) { return w.get() == &window; });
+}
+
+void Session::Discard(Window& window) {
+  const auto place = PlaceOf(window);
+  if (place == windows_.end()) return;
   window.shown_ = false;
-  // The unload handler may have ended other windows.
-  const auto still = std::find_if(windows_.begin(), windows_.end(),
-                                  [&window](const auto& w) { return w.get() == &window; });
-  gone_.push_back(std::move(*still));
-  windows_.erase(still);
+  gone_.push_back(std::move(*place));
+  windows_.erase(place);
   std::erase(modal_, &window);
-  if (wasShown) platform_.WindowUnloaded(window);
+  if (window.wasShown_) platform_.WindowUnloaded(window);
   if (active_ == &window) {
     active_ = nullptr;
     ActivateFront();
@@ -118,9 +124,8 @@ void Session::Unload(std::string_view name) {
 void Session::Activate(Window& window) {
   if (active_ == &window || !window.IsShown()) return;
   active_ = &window;
-  const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                  [&window](const auto& w) { return w.get() == &window; });
-  std::rotate(windows_.begin(), found, found + 1);
+  const auto place = PlaceOf(window);
+  std::rotate(windows_.begin(), place, place + 1);
   platform_.WindowActivated(window);
   window.Activated();
 }
@@ -171,17 +176,20 @@ void Session::ShowHelp() {
 
 // ---- Events ----
 
-void Session::Handle(const Handler& event) {
+bool Session::Handle(const Handler& event) {
   const Hold hold(*this);
+  bool done = true;
   try {
     event();
     RunPendingTabs();
   } catch (const RuntimeFailure& failure) {
+    done = false;
     pendingTabs_ = 0;
     Refresh();
     platform_.Fail(failure);
   }
   Refresh();
+  return done;
 }
 
 void Session::RunPendingTabs() {

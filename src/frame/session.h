@@ -90,8 +90,8 @@ class Session {
   };
 
   /// One event from outside: runs the handler, then the Tab keys that it simulated, shows the error
-  /// box if it failed, and draws what changed.
-  void Handle(const Handler& event);
+  /// box if it failed, and draws what changed. False if it failed.
+  bool Handle(const Handler& event);
   /// A simulated Tab key, which acts when the running handler has ended.
   void SendTab() { ++pendingTabs_; }
   void Refresh();
@@ -102,6 +102,9 @@ class Session {
  private:
   const WindowUnit* Unit(std::string_view name) const;
   Window& Load(std::string_view name);
+  using Place = std::vector<std::unique_ptr<Window>>::iterator;
+  Place PlaceOf(const Window& window);
+  void Discard(Window& window);  // without its unload handler
   void ActivateFront();
   void RunPendingTabs();
 

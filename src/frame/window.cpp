@@ -31,9 +31,12 @@ Control* Window::Find(std::string_view name) const {
 void Window::MoveFocus(FocusControl* target) {
   if (target == focus_ || (target != nullptr && !target->CanFocus())) return;
   FocusControl* left = std::exchange(focus_, target);
+  const bool leaves = std::exchange(arrived_, false);
   Changed();
-  if (left != nullptr && left->onLeave) left->onLeave();
-  if (focus_ == target && target != nullptr && target->onFocus) target->onFocus();
+  if (leaves && left != nullptr && left->onLeave) left->onLeave();
+  if (focus_ != target || arrived_) return;  // the handler has moved the focus itself
+  arrived_ = true;
+  if (target != nullptr && target->onFocus) target->onFocus();
 }
 
 void Window::FocusNext(int step) {

@@ -110,6 +110,7 @@ class Window {
   std::vector<FocusControl*> tabOrder_;
   std::vector<Control*> changes_;
   FocusControl* focus_ = nullptr;
+  bool arrived_ = false;  // a field that the focus has not come to rest in is not left
   Command* default_ = nullptr;
   Geometry geometry_;
   Color back_ = Color::ButtonFace();

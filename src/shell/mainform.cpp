@@ -129,8 +129,9 @@ void MAINFORM::ApplyUnits() {
 void MAINFORM::Activated() {
   GetSession().HelpContextId = 1000;
   for (std::size_t blanks = 50; blanks > 0; --blanks) {
-    const std::string pad(blanks, ' ');
-    SetTitle(pad + " Kor" + pad + "va" + pad + "ne");
+    std::string title;
+    for (const char* piece : {" Kor", "va", "ne"}) title.append(blanks, ' ').append(piece);
+    SetTitle(title);
     GetSession().Refresh();
   }
   GetSession().HelpTopic = kHelpPage;
