@@ -225,6 +225,14 @@ void WindowView::resizeEvent(QResizeEvent*) { report_.start(); }
 
 // ---- What the person does ----
 
+bool WindowView::event(QEvent* event) {
+  // A text that grows makes room for itself in a window of fixed size, rather than push others out.
+  if (event->type() == QEvent::LayoutRequest && window_ != nullptr && window_->HasOwnSize() &&
+      !window_->IsSizable())
+    setFixedSize(size().expandedTo(minimumSizeHint()));
+  return QWidget::event(event);
+}
+
 bool WindowView::focusNextPrevChild(bool next) {
   if (window_ == nullptr || window_->TabOrder().empty()) return QWidget::focusNextPrevChild(next);
   person_.Presses(*window_, next ? Key::Tab : Key::BackTab);

@@ -43,6 +43,10 @@ void Work(Session& session, Window& window) {
     person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
     person.Presses(window, Key::Enter);
   }
+  constexpr int longest = 50;  // ticks, after which an animation has come to its end
+  for (Control* control : window.Controls())
+    if (auto* timer = dynamic_cast<Timer*>(control))
+      for (int tick = 0; timer->IsEnabled() && tick < longest; ++tick) person.Waits(*timer);
 }
 
 /// The room that a widget needs to show all that it holds.
