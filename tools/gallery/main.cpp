@@ -79,7 +79,8 @@ bool IsCutOff(const QWidget& view) {
     const bool inside = child->parentWidget()->rect().contains(child->geometry());
     const bool entriesLeftOver = child->objectName() == "qt_menubar_ext_button";
     if (fits && inside && !entriesLeftOver) continue;
-    const QString name = isCaption ? static_cast<const QLabel*>(child)->text() : child->objectName();
+    const QString name =
+        isCaption ? static_cast<const QLabel*>(child)->text() : child->objectName();
     std::fprintf(stderr, "%s: \"%s\" is %d x %d%s, and needs %d x %d\n",
                  qPrintable(view.objectName()), qPrintable(name), child->width(), child->height(),
                  inside ? "" : ", beyond its parent's edge", needed.width(), needed.height());
