@@ -104,11 +104,16 @@ TEST(NumberText, PlainTextIsTheShortestOfItsKind) {
       {1e-6, "1E-06", "1E-06"},
       {1e-30, "1E-30", "1E-30"},
       {1e38, "1E+38", "1E+38"},
+      // Where 32 bits hold less than 7 digits, the shorter text still gives the value back.
+      {0.000986, "0.000986", "0.000986"},
+      {9e9, "9000000000", "9E+09"},
+      {-1e28, "-1E+28", "-1E+28"},
   };
   for (const auto& [value, asDouble, asSingle] : cases) {
     EXPECT_EQ(PlainText(Double(value)), asDouble);
     EXPECT_EQ(PlainText(Single(value)), asSingle);
   }
+  EXPECT_EQ(PlainText(Double(5e-324)), "5E-324");
   EXPECT_EQ(PlainText(Double(1e300)), "1E+300");
   EXPECT_EQ(PlainText(Double(-1.5e-300)), "-1.5E-300");
   EXPECT_EQ(PlainText(-7), "-7");
