@@ -177,7 +177,7 @@ TEST(Mask, ValuesNeverSetAndTextsThatAreNoNumbers) {
 
 TEST(Mask, OtherTextsAreNoMasks) {
   for (const char* text : {"", ".", ",", ",#", "0#", "#.#0", "x", "#x", "#.##.#", "0.0E", "0.0E+",
-                           "0.0E+#", "E+0", "# "})
+                           "0.0E+#", "E+0", "#E+0", "#.0E+0", "# "})
     EXPECT_EQ(FailureOf([&] { return Mask::Parse(text); }), kInvalidCall) << text;
 }
 
