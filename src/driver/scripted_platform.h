@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "frame/platform.h"
 
@@ -27,6 +28,11 @@ class ScriptedPlatform final : public Platform {
   /// Forgets settings, clipboard and queued answers.
   void Reset();
 
+  // What the machine has. No printer, and no web server, unless the script gives one.
+  std::vector<Printer> printers;
+  std::map<std::string, std::string> webPages;
+  std::vector<PrintedPage> printed;
+
   std::map<std::string, std::string> settings;
   std::string clipboard;
 
@@ -39,7 +45,7 @@ class ScriptedPlatform final : public Platform {
   void WindowHidden(Window&) override {}
   void WindowUnloaded(Window& window) override;
   void WindowActivated(Window&) override {}
-  void Refresh(Window&, const std::vector<Control*>&, bool) override {}
+  void Refresh(Window& window, const std::vector<Control*>& changed, bool) override;
   void RunModal(Window& window) override;
   void RunPendingMessages() override {}
   void SetHourglass(bool) override {}
@@ -47,6 +53,15 @@ class ScriptedPlatform final : public Platform {
   Answer Ask(const Question& question) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
   std::optional<std::string> ChooseFolder(const std::string& title) override;
+  void Capture(Window& window) override;
+  std::vector<std::string> PrinterNames() override;
+  std::optional<Printer> CurrentPrinter() override;
+  void ChoosePrinter(const std::string& name) override;
+  void SetOrientation(Orientation orientation) override;
+  void SetUpPrinter(const std::string&) override {}
+  void Print(const PrintedPage& page) override;
+  Metrics GetMetrics() override;
+  std::string Get(const std::string& address) override;
   void Beep() override;
   void SetClipboard(const std::string& text) override;
   void Launch(const std::string& what) override;
@@ -65,6 +80,7 @@ class ScriptedPlatform final : public Platform {
   Reply TakeReply();
 
   std::deque<Reply> answers_;
+  std::size_t printer_ = 0;
 };
 
 /// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r \t.

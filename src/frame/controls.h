@@ -19,6 +19,7 @@
 #include "frame/drawing.h"
 #include "frame/mask.h"
 #include "frame/number_text.h"
+#include "frame/table.h"
 
 namespace korvane {
 
@@ -118,10 +119,16 @@ class Picture : public Control {
   const Drawing& Shown() const { return drawing_; }
   void Draw(Drawing drawing);
 
+  /// Fills the space that the window leaves, at whatever scale, instead of having a size of its own.
+  bool FillsSpace() const { return fillsSpace_; }
+  void FillSpace() { fillsSpace_ = true; }
+
   Handler onClick;
+  Handler onRightClick;
 
  private:
   Drawing drawing_;
+  bool fillsSpace_ = false;
 };
 
 class Frame : public Control {
@@ -254,6 +261,13 @@ class Choice : public CaptionedControl {
 class ListBox : public Choice {
  public:
   ListBox(Window& window, std::string name, const Beside& caption);
+
+  /// Its entries are columns made of blanks.
+  bool HasFixedPitch() const { return fixedPitch_; }
+  void MakeFixedPitch() { fixedPitch_ = true; }
+
+ private:
+  bool fixedPitch_ = false;
 };
 
 class Combo : public Choice {
@@ -371,24 +385,13 @@ class ScrollBar : public CaptionedControl {
   int value_;
 };
 
-/// What a grid shows: texts in rows and columns, of which the first may be fixed.
-struct Table {
-  int rows = 0;
-  int columns = 0;
-  int fixedRows = 0;
-  int fixedColumns = 0;
-  std::vector<double> widths;     ///< twips, one a column
-  std::vector<int> alignments;    ///< the grid's code 0 to 9, one a column
-  std::vector<std::string> texts; ///< row by row
-
-  const std::string& At(int row, int column) const;
-};
-
 class Grid : public CaptionedControl {
  public:
   Grid(Window& window, std::string name, const Beside& caption);
 
   const Table& Content() const { return table_; }
+  /// Counts the contents that the grid has had, so that a view knows when to read anew.
+  int Version() const { return version_; }
   void SetContent(Table table);
   int Row() const { return row_; }
   int Column() const { return column_; }
@@ -400,28 +403,41 @@ class Grid : public CaptionedControl {
 
  private:
   Table table_;
+  int version_ = 0;
   int row_ = 0;
   int column_ = 0;
 };
 
-/// A view of help pages.
+/// A view of help pages, with its history.
 class PageView : public FocusControl {
  public:
   PageView(Window& window, std::string name);
 
-  const std::string& Address() const { return address_; }
-  void Navigate(std::string address);
-  enum class Step : std::uint8_t { None, Back, Forward, Reload };
-  void Go(Step step);
-  Step TakeStep() { return std::exchange(step_, Step::None); }
-  /// The view tells where a navigation ended.
-  void Arrived(std::string address);
+  /// The folder whose pages are shown; no other file is.
+  const std::string& Folder() const { return folder_; }
+  void SetFolder(std::string folder) { folder_ = std::move(folder); }
+
+  /// The page that is shown, or about to be; empty before the first.
+  const std::string& Address() const;
+  void Navigate(const std::string& address);
+  void Reload();
+  void Back();     ///< nothing at the first page of the history
+  void Forward();  ///< nothing at the last one
+
+  /// Whether a page is to be shown that has not been asked for yet.
+  bool TakeNavigation() { return std::exchange(navigates_, false); }
+  /// The view has shown the page.
+  void Arrived();
 
   Handler onArrived;
+  /// A link was clicked.
+  std::function<void(const std::string&)> onFollow;
 
  private:
-  std::string address_;
-  Step step_ = Step::None;
+  std::string folder_;
+  std::vector<std::string> history_;
+  std::size_t at_ = 0;
+  bool navigates_ = false;
 };
 
 /// Elements T(0), T(1), ... of one name.

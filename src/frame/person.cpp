@@ -128,8 +128,20 @@ void Person::RightClicks(Grid& grid) const {
   });
 }
 
-void Person::Arrives(PageView& view, std::string address) const {
-  Handle([&] { view.Arrived(std::move(address)); });
+void Person::RightClicks(Picture& picture) const {
+  Handle([&] {
+    if (picture.onRightClick) picture.onRightClick();
+  });
+}
+
+void Person::RightClicks(Window& window) const {
+  Handle([&] { window.RightClicked(); });
+}
+
+void Person::Follows(PageView& view, std::string address) const {
+  Handle([&] {
+    if (view.onFollow) view.onFollow(address);
+  });
 }
 
 void Person::Activates(Window& window) const {
@@ -162,6 +174,10 @@ void Person::Picks(MenuEntry& entry) const {
 
 void Person::Waits(Timer& timer) const {
   Handle([&] { timer.Tick(); });
+}
+
+void Person::Arrives(PageView& view) const {
+  Handle([&] { view.Arrived(); });
 }
 
 std::string CleanPaste(std::string_view text) {

@@ -34,6 +34,7 @@ namespace failures {
 [[noreturn, gnu::cold]] void DeviceError();         ///< 57: reading or writing went wrong
 [[noreturn, gnu::cold]] void InputPastEnd();        ///< 62: a file that ends too soon
 [[noreturn, gnu::cold]] void PathAccess();          ///< 75: a file that may not be used
+[[noreturn, gnu::cold]] void PrinterError();        ///< 482: no printer, or one that fails
 [[noreturn, gnu::cold]] void ObjectNotSet();        ///< 91: a control that the window does not have
 }  // namespace failures
 

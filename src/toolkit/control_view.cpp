@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,7 +12,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTextBrowser>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -19,6 +19,7 @@
 
 #include "frame/session.h"
 #include "toolkit/grid_view.h"
+#include "toolkit/help_browser.h"
 #include "toolkit/number_edit.h"
 #include "toolkit/picture_widget.h"
 #include "toolkit/text.h"
@@ -125,6 +126,8 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
  public:
   ListView(ListBox& list, const Person& person, QWidget& parent)
       : ViewOf(list, new QListWidget(&parent), person) {
+    if (list.HasFixedPitch())
+      shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(&shown_, &QListWidget::currentRowChanged, this, [this](int row) {
       if (row >= 0 && row != model_.Index()) person_.Selects(model_, row);
     });
@@ -309,12 +312,17 @@ class PictureView final : public ViewOf<Picture, PictureWidget> {
   PictureView(Picture& picture, const Person& person, QWidget& parent)
       : ViewOf(picture, new PictureWidget(&parent), person) {
     if (picture.onClick) shown_.setCursor(Qt::PointingHandCursor);
+    if (picture.FillsSpace()) shown_.FillSpace();
   }
 
  private:
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonRelease && model_.onClick) {
       person_.Clicks(model_);
+      return true;
+    }
+    if (event->type() == QEvent::ContextMenu && model_.onRightClick) {
+      person_.RightClicks(model_);
       return true;
     }
     return ControlView::eventFilter(object, event);
@@ -336,33 +344,26 @@ class FrameView final : public ViewOf<Frame, QGroupBox> {
   void RefreshContent() override { shown_.setTitle(ToQt(model_.Caption())); }
 };
 
-class PageBrowser final : public ViewOf<PageView, QTextBrowser> {
+class PageBrowser final : public ViewOf<PageView, HelpBrowser> {
  public:
   PageBrowser(PageView& page, const Person& person, QWidget& parent)
-      : ViewOf(page, new QTextBrowser(&parent), person) {
-    shown_.setOpenExternalLinks(true);
+      : ViewOf(page, new HelpBrowser(&parent), person) {
     shown_.setAccessibleName(tr("Help page"));
-    connect(&shown_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
-      person_.Arrives(model_, FromQt(source.isLocalFile() ? source.toLocalFile()
-                                                         : source.toString()));
+    connect(&shown_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+      person_.Follows(model_, FromQt(AddressOf(shown_.source().resolved(link))));
     });
   }
 
  private:
+  static QString AddressOf(const QUrl& url) {
+    return url.isLocalFile() ? url.toLocalFile() : url.toString();
+  }
+
   void RefreshContent() override {
-    switch (model_.TakeStep()) {
-      case PageView::Step::None: break;
-      case PageView::Step::Back: shown_.backward(); break;
-      case PageView::Step::Forward: shown_.forward(); break;
-      case PageView::Step::Reload: {
-        const QUrl url = QUrl::fromUserInput(ToQt(model_.Address()), {}, QUrl::AssumeLocalFile);
-        if (shown_.source() == url)
-          shown_.reload();
-        else
-          shown_.setSource(url);
-        break;
-      }
-    }
+    shown_.SetFolder(ToQt(model_.Folder()));
+    if (!model_.TakeNavigation()) return;
+    shown_.Show(ToQt(model_.Address()));
+    person_.Arrives(model_);
   }
 };
 
@@ -377,6 +378,7 @@ ControlView::ControlView(Control& control, QWidget& widget, const Person& person
 }
 
 void ControlView::Detach() {
+  detached_ = true;
   widget_.removeEventFilter(this);
   widget_.disconnect(this);
 }
@@ -389,6 +391,7 @@ void ControlView::Refresh() {
 }
 
 bool ControlView::eventFilter(QObject* object, QEvent* event) {
+  if (detached_) return false;
   auto* focusable = dynamic_cast<FocusControl*>(&control_);
   switch (event->type()) {
     case QEvent::FocusIn:
