@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QProcess>
 #include <QScreen>
 #include <QUrl>
 #include <cstdlib>
@@ -18,6 +19,8 @@
 
 namespace korvane {
 namespace {
+
+constexpr const char* kCalculator = "Calc.exe";  // what the menu calls the system's calculator
 
 QMessageBox::Icon IconOf(Icon icon) {
   switch (icon) {
@@ -195,6 +198,12 @@ void QtPlatform::SetClipboard(const std::string& text) {
 }
 
 void QtPlatform::Launch(const std::string& what) {
+  if (what == kCalculator) {
+    for (const char* program : {"gnome-calculator", "kcalc", "qalculate-gtk", "mate-calc",
+                                "galculator", "xcalc"})
+      if (QProcess::startDetached(program, {})) return;
+    return;
+  }
   QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(what)));
 }
 
