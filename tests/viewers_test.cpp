@@ -48,8 +48,8 @@ TEST_F(Viewers, ShowATableAtItsSize) {
 }
 
 TEST_F(Viewers, TallTablesStopAboveTheEndOfTheScreen) {
-  std::string tall = "c\nTall\n2000,1,0,0\n900\n1\n";
-  for (int i = 0; i < 2000; ++i) tall += "x\n";
+  std::string tall = "c\nTall\n2000,2,0,0\n900,900\n1,1\n";
+  for (int i = 0; i < 2000; ++i) tall += "x,y\n";
   folder.Write("tall.dat", tall);
   ShowTable("tall.dat");
   EXPECT_EQ(suite.session.Active()->GetGeometry().height, 16200 - 450);
@@ -122,10 +122,10 @@ TEST_F(Conversions, ConvertEitherWay) {
   EXPECT_EQ(Text("Text2"), "32");
   suite.person.Selects(suite.Get<ListBox>("List1"), 1);
   EXPECT_EQ(Text("Text1"), "1");
-  EXPECT_EQ(Text("Text2"), "8.33333333333333E-02");
+  EXPECT_EQ(Text("Text2"), "0.0833333333333333");
   suite.Told();
   suite.person.Clicks(suite.Get("btn_copy_right"));
-  EXPECT_EQ(suite.Told(), Lines{"! clipboard 8.33333333333333E-02"});
+  EXPECT_EQ(suite.Told(), Lines{"! clipboard 0.0833333333333333"});
 }
 
 TEST_F(Conversions, SearchByTheBeginning) {

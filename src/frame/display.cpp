@@ -25,62 +25,61 @@ void Solid(Drawing& drawing, std::vector<Point> points) {
   drawing.shapes.emplace_back(Path{std::move(points), Ink::Line, Ink::Body});
 }
 
-/// A dimension with arrow heads at both ends and its letter in the middle.
-void Dimension(Drawing& drawing, Point from, Point to, const char* letter) {
+/// A dimension with arrow heads at both ends and its letters above it, or beside it.
+void Dimension(Drawing& drawing, Point from, Point to, const char* letters) {
   const bool level = from.y == to.y;
   const Point along = level ? Point{1, 0} : Point{0, 1};
   const Point across = level ? Point{0, 1} : Point{1, 0};
-  constexpr double gap = 6, head = 4, half = 1.6;
-  const Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
-  drawing.shapes.emplace_back(
-      Path{{from, {middle.x - gap * along.x, middle.y - gap * along.y}}, Ink::Accent});
-  drawing.shapes.emplace_back(
-      Path{{{middle.x + gap * along.x, middle.y + gap * along.y}, to}, Ink::Accent});
+  constexpr double head = 4, half = 1.6, height = 6.5;
+  drawing.shapes.emplace_back(Path{{from, to}, Ink::Accent, {}, 0.7});
   for (const auto& [tip, way] : {std::pair{from, 1.0}, std::pair{to, -1.0}}) {
     const Point base{tip.x + way * head * along.x, tip.y + way * head * along.y};
     drawing.shapes.emplace_back(Path{{{base.x + half * across.x, base.y + half * across.y},
                                       tip,
                                       {base.x - half * across.x, base.y - half * across.y}},
-                                     Ink::Accent});
+                                     Ink::Accent, {}, 0.7});
   }
-  drawing.shapes.emplace_back(Letters{middle, letter, 6, Ink::Accent});
+  const Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
+  const Point place = level ? Point{middle.x, middle.y + 8} : Point{middle.x + 17, middle.y};
+  drawing.shapes.emplace_back(Letters{place, letters, height, Ink::Accent});
 }
 
+/// NEMA letters with those of IEC in brackets, as far as they name the same measure.
 Drawing Motor() {
-  Drawing drawing{420, 100, {}};
+  Drawing drawing{400, 96, {}};
   // From the side: body, feet, shaft to the right.
-  Solid(drawing, {{40, 20}, {150, 20}, {150, 68}, {40, 68}});
-  Solid(drawing, {{34, 26}, {40, 26}, {40, 62}, {34, 62}});
-  Solid(drawing, {{150, 24}, {158, 28}, {158, 60}, {150, 64}});
-  Solid(drawing, {{158, 40}, {198, 40}, {198, 48}, {158, 48}});
-  Solid(drawing, {{56, 68}, {72, 68}, {72, 76}, {52, 76}});
-  Solid(drawing, {{120, 68}, {136, 68}, {140, 76}, {120, 76}});
-  for (const double y : {28.0, 36.0, 44.0, 52.0, 60.0}) Line(drawing, {{44, y}, {146, y}}, 0.5);
-  Line(drawing, {{20, 76}, {410, 76}}, 0.5);
-  Dimension(drawing, {62, 88}, {130, 88}, "2F");
-  Dimension(drawing, {130, 88}, {158, 88}, "BA");
-  Dimension(drawing, {158, 32}, {198, 32}, "V");
-  Dimension(drawing, {34, 10}, {198, 10}, "C");
-  Dimension(drawing, {210, 44}, {210, 76}, "D");
-  Line(drawing, {{198, 44}, {216, 44}}, 0.5);
+  Solid(drawing, {{36, 14}, {150, 14}, {150, 62}, {36, 62}});
+  Solid(drawing, {{30, 20}, {36, 20}, {36, 56}, {30, 56}});
+  Solid(drawing, {{150, 18}, {158, 22}, {158, 54}, {150, 58}});
+  Solid(drawing, {{158, 34}, {200, 34}, {200, 42}, {158, 42}});
+  Solid(drawing, {{52, 62}, {68, 62}, {68, 70}, {48, 70}});
+  Solid(drawing, {{118, 62}, {134, 62}, {138, 70}, {118, 70}});
+  for (const double y : {22.0, 30.0, 38.0, 46.0, 54.0}) Line(drawing, {{40, y}, {146, y}}, 0.5);
+  Line(drawing, {{20, 70}, {390, 70}}, 0.5);
+  for (const double x : {58.0, 128.0, 158.0}) Line(drawing, {{x, 70}, {x, 88}}, 0.4);
+  Dimension(drawing, {58, 82}, {128, 82}, "2F (B)");
+  Dimension(drawing, {128, 82}, {158, 82}, "BA (C)");
+  Dimension(drawing, {158, 24}, {200, 24}, "N-W (E)");
+  Line(drawing, {{200, 38}, {222, 38}}, 0.4);
+  Dimension(drawing, {216, 38}, {216, 70}, "D (H)");
   // From the shaft's end: round body on its feet.
-  std::vector<Point> body = Arc({310, 44}, 28, 0, 360);
-  drawing.shapes.emplace_back(Path{body, Ink::Line, Ink::Body});
-  Line(drawing, Arc({310, 44}, 20, 0, 360), 0.5);
-  Line(drawing, Arc({310, 44}, 5, 0, 360));
-  Line(drawing, {{308.5, 39}, {308.5, 41.5}, {311.5, 41.5}, {311.5, 39}});
-  Solid(drawing, {{276, 76}, {276, 71}, {292, 64}, {296, 70}, {296, 76}});
-  Solid(drawing, {{344, 76}, {344, 71}, {328, 64}, {324, 70}, {324, 76}});
-  Line(drawing, {{310, 10}, {310, 94}}, 0.4);
-  Dimension(drawing, {286, 88}, {310, 88}, "E");
-  Dimension(drawing, {310, 88}, {334, 88}, "E");
-  Dimension(drawing, {276, 96}, {344, 96}, "B");
-  Dimension(drawing, {362, 16}, {362, 76}, "O");
-  Line(drawing, {{310, 16}, {368, 16}}, 0.5);
-  Dimension(drawing, {384, 39}, {384, 49}, "");
-  Line(drawing, {{315, 39}, {390, 39}}, 0.4);
-  Line(drawing, {{315, 49}, {390, 49}}, 0.4);
-  drawing.shapes.emplace_back(Letters{{397, 44}, "U", 6, Ink::Accent});
+  drawing.shapes.emplace_back(Path{Arc({310, 38}, 28, 0, 360), Ink::Line, Ink::Body});
+  Line(drawing, Arc({310, 38}, 20, 0, 360), 0.5);
+  Line(drawing, Arc({310, 38}, 5, 0, 360));
+  Line(drawing, {{308.5, 33}, {308.5, 35.5}, {311.5, 35.5}, {311.5, 33}});
+  Solid(drawing, {{276, 70}, {276, 65}, {292, 58}, {296, 64}, {296, 70}});
+  Solid(drawing, {{344, 70}, {344, 65}, {328, 58}, {324, 64}, {324, 70}});
+  Line(drawing, {{310, 6}, {310, 90}}, 0.4);
+  for (const double x : {284.0, 336.0}) Line(drawing, {{x, 60}, {x, 88}}, 0.4);
+  Dimension(drawing, {284, 82}, {310, 82}, "E");
+  Dimension(drawing, {310, 82}, {336, 82}, "E");
+  drawing.shapes.emplace_back(Letters{{358, 82}, "(A = 2E)", 6.5, Ink::Accent});
+  drawing.shapes.emplace_back(Letters{{262, 62}, "H (K)", 6.5, Ink::Accent});
+  Line(drawing, {{272, 64}, {284, 68}}, 0.5);
+  Line(drawing, {{313, 33}, {352, 33}}, 0.4);
+  Line(drawing, {{313, 43}, {352, 43}}, 0.4);
+  Line(drawing, {{349, 33}, {349, 43}}, 0.6);
+  drawing.shapes.emplace_back(Letters{{368, 38}, "U (D)", 6.5, Ink::Accent});
   return drawing;
 }
 

@@ -21,7 +21,7 @@ struct Placement {
   Single y;
   Single width;
   Single height;
-  std::optional<Double> fittedScale;  ///< the scale that Fit to Page found
+  std::optional<Single> fittedScale;  ///< the scale that Fit to Page found
 };
 
 /// Places an image on paper, in twips. The size on paper is 0.94 of what the scale says, so that the image

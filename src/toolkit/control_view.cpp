@@ -83,7 +83,10 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
 
   void RefreshContent() override {
     const QString text = ToQt(model_.Text());
-    if (shown_.text() != text) shown_.setText(text);
+    if (shown_.text() != text) {
+      shown_.setText(text);
+      if (model_.IsLocked()) shown_.home(false);  // a long text is read from its beginning
+    }
     shown_.setReadOnly(model_.IsLocked() || model_.IsResult());
     shown_.setAccessibleName(Plain(model_.Caption()));
     if (model_.TakeSelectAll()) shown_.selectAll();

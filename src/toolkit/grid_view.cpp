@@ -84,11 +84,11 @@ struct Pane {
     view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setWordWrap(false);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     if (!fixed) return;
     view.setFocusPolicy(Qt::NoFocus);
     view.setSelectionMode(QAbstractItemView::NoSelection);
-    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   }
 
   void Reload(const Table& table) {
@@ -124,6 +124,8 @@ class GridView final : public ControlView {
     layout->addWidget(&top_.view, 0, 1);
     layout->addWidget(&left_.view, 1, 0);
     layout->addWidget(&body_.view, 1, 1);
+    layout->addWidget(ScrollBarOf(*body_.view.horizontalScrollBar(), box), 2, 0, 1, 2);
+    layout->addWidget(ScrollBarOf(*body_.view.verticalScrollBar(), box), 0, 2, 2, 1);
     Link(body_.view.horizontalScrollBar(), top_.view.horizontalScrollBar());
     Link(body_.view.verticalScrollBar(), left_.view.verticalScrollBar());
 
@@ -138,6 +140,21 @@ class GridView final : public ControlView {
   }
 
  private:
+  /// A bar that stands for the body's own, but outside of it, so that all panes end in one line.
+  QScrollBar* ScrollBarOf(QScrollBar& inner, QWidget& box) {
+    auto* bar = new QScrollBar(inner.orientation(), &box);
+    const auto follow = [bar, &inner] {
+      bar->setRange(inner.minimum(), inner.maximum());
+      bar->setPageStep(inner.pageStep());
+      bar->setSingleStep(inner.singleStep());
+      bar->setVisible(inner.maximum() > inner.minimum());
+    };
+    connect(&inner, &QScrollBar::rangeChanged, bar, follow);
+    follow();
+    Link(&inner, bar);
+    return bar;
+  }
+
   // Both scroll together, whichever the person moves.
   void Link(QScrollBar* one, QScrollBar* other) {
     connect(one, &QScrollBar::valueChanged, other, &QScrollBar::setValue);

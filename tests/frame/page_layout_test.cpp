@@ -48,9 +48,8 @@ TEST(PageLayout, PlacesTheImage) {
     EXPECT_FLOAT_EQ(place.y.Value(), static_cast<float>(test.y)) << test.what;
     EXPECT_FLOAT_EQ(place.width.Value(), static_cast<float>(test.width)) << test.what;
     EXPECT_FLOAT_EQ(place.height.Value(), static_cast<float>(test.height)) << test.what;
-    ASSERT_EQ(place.fittedScale.has_value(), test.fittedScale > 0) << test.what;
-    if (place.fittedScale)
-      EXPECT_NEAR(place.fittedScale->Value(), test.fittedScale, 1e-6) << test.what;
+    const double scale = place.fittedScale.value_or(0).Value();
+    EXPECT_NEAR(scale, test.fittedScale, 1e-6) << test.what;
   }
 }
 

@@ -37,7 +37,7 @@ TEST(Table, IsReadFrontToBack) {
 }
 
 TEST(Table, MayLayItsFieldsOutAsItPleases) {
-  const Table table = ParseTable("x\nT\n2\n1,0\n0 100\n9 \n\xB0, \"\"\n");
+  const Table table = ParseTable("x\nT\n2\n1,0\n0\n\n 100\n9 \n\xB0, \"\"\n");
   EXPECT_EQ(table.rows, 2);
   EXPECT_EQ(table.texts, (std::vector<std::string>{"\u00B0", ""}));
 }

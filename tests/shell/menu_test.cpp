@@ -46,7 +46,7 @@ TEST_F(Menus, HaveTheirShape) {
   EXPECT_EQ(separators, 4);
   EXPECT_EQ(hidden, 8 + 1);  // and the metric beams
   // All but the separators.
-  EXPECT_EQ(names.size(), 220U);
+  EXPECT_EQ(names.size(), 210U);
 }
 
 TEST_F(Menus, ShowTheShapesOfTheUnits) {

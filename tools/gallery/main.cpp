@@ -83,7 +83,12 @@ int Draw(const QDir& folder) {
     for (const WindowUnit& unit : WindowCatalogue()) {
       session.DataFileName = TableOf(session, unit.name);
       session.AboutMode = true;  // the splash window in its larger form
-      session.Handle([&] { session.Show(unit.name); });
+      session.Handle([&] {
+        if (std::string_view(unit.name) == "Page_Setup")
+          session.PrintWindow(session.Show("FlowCalc"));
+        else
+          session.Show(unit.name);
+      });
       Window* window = session.Find(unit.name);
       if (window == nullptr) continue;
       Work(session, *window);
