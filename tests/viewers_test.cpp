@@ -71,9 +71,8 @@ TEST_F(Viewers, CopyACellAndAskBeforePrinting) {
 }
 
 TEST_F(Viewers, FailWithoutATable) {
-  for (const auto& [name, failure] :
-       {std::pair{"none.dat", "! failure 53 File not found"},
-        std::pair{"", "! failure 75 Path/File access error"}}) {
+  for (const auto& [name, failure] : {std::pair{"none.dat", "! failure 53 File not found"},
+                                      std::pair{"", "! failure 75 Path/File access error"}}) {
     ShowTable(name);
     EXPECT_EQ(suite.Told(), Lines{failure}) << name;
   }
@@ -92,8 +91,9 @@ TEST_F(Viewers, FailWithoutATable) {
 class Conversions : public Viewers {
  protected:
   Conversions() {
-    folder.Write("conversion_factors.dat",
-                 "Celsius,Fahrenheit,1.8,32,-1,0\ninches,feet,12,0,0,0\nInches,meters,.0254,0,-1,0\n");
+    folder.Write(
+        "conversion_factors.dat",
+        "Celsius,Fahrenheit,1.8,32,-1,0\ninches,feet,12,0,0,0\nInches,meters,.0254,0,-1,0\n");
     suite.Shows("Conversion_Factors");
   }
 

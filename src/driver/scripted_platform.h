@@ -20,8 +20,8 @@ class ScriptedPlatform final : public Platform {
   /// Runs while a window is modal, until that window is hidden or unloaded.
   std::function<void(Window&)> onModal;
 
-  /// The next box or dialog is answered so. With nothing queued a message is answered OK, a question
-  /// and a dialog Cancel.
+  /// The next box or dialog is answered so. With nothing queued a message is answered OK, a
+  /// question and a dialog Cancel.
   void Queue(Answer answer) { answers_.push_back({answer, std::nullopt}); }
   void QueueFile(std::string path) { answers_.push_back({Answer::Cancel, std::move(path)}); }
 
@@ -83,7 +83,8 @@ class ScriptedPlatform final : public Platform {
   std::size_t printer_ = 0;
 };
 
-/// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r \t.
+/// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r
+/// \t.
 std::string Escaped(std::string_view text);
 std::string Unescaped(std::string_view text);
 

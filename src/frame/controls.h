@@ -1,8 +1,8 @@
 // The named controls that windows are made of.
 //
-// A control holds its own state; what code does to it (SetText, SetVisible, Choose) is one road, what
-// the person does (Person, see person.h) the other. Both run the handlers below, and every change
-// reaches the toolkit through Window::Changed.
+// A control holds its own state; what code does to it (SetText, SetVisible, Choose) is one road,
+// what the person does (Person, see person.h) the other. Both run the handlers below, and every
+// change reaches the toolkit through Window::Changed.
 #pragma once
 
 #include <cstdint>
@@ -41,7 +41,20 @@ struct UnitText {
 class Control {
  public:
   enum class Kind : std::uint8_t {
-    Text, Combo, List, Option, Check, Command, Label, Picture, Frame, Timer, Spin, Scroll, Grid, Page,
+    Text,
+    Combo,
+    List,
+    Option,
+    Check,
+    Command,
+    Label,
+    Picture,
+    Frame,
+    Timer,
+    Spin,
+    Scroll,
+    Grid,
+    Page,
   };
 
   /// A control registers itself with its window, in the order of construction.
@@ -119,7 +132,8 @@ class Picture : public Control {
   const Drawing& Shown() const { return drawing_; }
   void Draw(Drawing drawing);
 
-  /// Fills the space that the window leaves, at whatever scale, instead of having a size of its own.
+  /// Fills the space that the window leaves, at whatever scale, instead of having a size of its
+  /// own.
   bool FillsSpace() const { return fillsSpace_; }
   void FillSpace() { fillsSpace_ = true; }
 
@@ -169,8 +183,8 @@ class FocusControl : public Control {
   Handler onLeave;
 };
 
-/// What stands beside a field as its caption: a label or a frame of the window with a name of its own,
-/// or a text, which then gets a label without a name.
+/// What stands beside a field as its caption: a label or a frame of the window with a name of its
+/// own, or a text, which then gets a label without a name.
 class Beside {
  public:
   Beside(Control& caption) : control_(&caption) {}
@@ -245,7 +259,8 @@ class Choice : public CaptionedControl {
   void AddItem(std::string item);
   /// The chosen entry, from 0; -1 for none.
   int Index() const { return index_; }
-  /// Code chooses an entry (-1: none), which is handled as a selection. An index past the end fails.
+  /// Code chooses an entry (-1: none), which is handled as a selection. An index past the end
+  /// fails.
   void Select(int index);
   virtual const std::string& Text() const;  ///< of the chosen entry
 
@@ -274,8 +289,8 @@ class Combo : public Choice {
  public:
   enum class Style : bool { Fixed, Editable };
 
-  Combo(Window& window, std::string name, const Beside& caption, std::vector<std::string> items = {},
-        Style style = Style::Fixed);
+  Combo(Window& window, std::string name, const Beside& caption,
+        std::vector<std::string> items = {}, Style style = Style::Fixed);
 
   bool IsEditable() const { return style_ == Style::Editable; }
   void SetItems(std::vector<std::string> items) override;
@@ -369,7 +384,8 @@ class SpinButton : public FocusControl {
 
 class ScrollBar : public CaptionedControl {
  public:
-  ScrollBar(Window& window, std::string name, const Beside& caption, int least, int most, int start);
+  ScrollBar(Window& window, std::string name, const Beside& caption, int least, int most,
+            int start);
 
   int Least() const { return least_; }
   int Most() const { return most_; }
@@ -450,8 +466,8 @@ class ControlArray {
                const Arguments&... arguments)
       : first_(first) {
     for (int i = first; i <= last; ++i)
-      elements_.push_back(std::make_unique<Element>(
-          window, name + '(' + std::to_string(i) + ')', arguments...));
+      elements_.push_back(
+          std::make_unique<Element>(window, name + '(' + std::to_string(i) + ')', arguments...));
   }
 
   /// An index out of bounds fails with "Subscript out of range".

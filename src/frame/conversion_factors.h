@@ -8,21 +8,22 @@
 
 namespace korvane {
 
-/// A pair of units. With `multiplies` the second is the first times the factor plus the offset; without,
-/// it is the first less the offset, divided by the factor.
+/// A pair of units. With `multiplies` the second is the first times the factor plus the offset;
+/// without, it is the first less the offset, divided by the factor.
 struct Conversion {
-  std::string first;   ///< 50 characters, cut or filled with blanks
+  std::string first;  ///< 50 characters, cut or filled with blanks
   std::string second;
   Double factor;
   Double offset;
   bool multiplies = false;
 };
 
-Double Forward(const Conversion& conversion, Double first);   ///< Fails for a factor of 0 that divides.
+Double Forward(const Conversion& conversion,
+               Double first);  ///< Fails for a factor of 0 that divides.
 Double Backward(const Conversion& conversion, Double second);
 
-/// Reads all records of the file's bytes: two names, factor, offset, direction (-1: multiplies, or 0),
-/// and a field that is ignored. More than 2001 of them fail with "Subscript out of range".
+/// Reads all records of the file's bytes: two names, factor, offset, direction (-1: multiplies, or
+/// 0), and a field that is ignored. More than 2001 of them fail with "Subscript out of range".
 std::vector<Conversion> ParseConversions(std::string_view bytes);
 
 class Conversion_Factors final : public CalculatorWindow {
@@ -43,9 +44,10 @@ class Conversion_Factors final : public CalculatorWindow {
 
   std::vector<Conversion> conversions_;
 
-  Label Label1{*this, "Label1",
-               "Select units.  Type a known value into either text box and press  <ENTER>  to force "
-               "calculation of the other unit.  "};
+  Label Label1{
+      *this, "Label1",
+      "Select units.  Type a known value into either text box and press  <ENTER>  to force "
+      "calculation of the other unit.  "};
   ListBox List1{*this, "List1", "Units"};
   Label lbl_search{*this, "lbl_search", "Search:"};
   TextField txt_search{*this, "txt_search", lbl_search};

@@ -11,8 +11,8 @@ namespace {
 
 // Fixed margins, in twips.
 constexpr int kSideMargins = 480 + 130;
-constexpr int kBelowWindow = 450;     // of the screen, that a window leaves free
-constexpr int kBelowTallWindow = 900; // a window that leaves less than this stands at the top
+constexpr int kBelowWindow = 450;      // of the screen, that a window leaves free
+constexpr int kBelowTallWindow = 900;  // a window that leaves less than this stands at the top
 
 // ---- The motor, seen from its side and from its shaft's end ----
 
@@ -37,7 +37,9 @@ void Dimension(Drawing& drawing, Point from, Point to, const char* letters) {
     drawing.shapes.emplace_back(Path{{{base.x + half * across.x, base.y + half * across.y},
                                       tip,
                                       {base.x - half * across.x, base.y - half * across.y}},
-                                     Ink::Accent, {}, 0.7});
+                                     Ink::Accent,
+                                     {},
+                                     0.7});
   }
   const Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
   const Point place = level ? Point{middle.x, middle.y + 8} : Point{middle.x + 17, middle.y};
@@ -117,8 +119,7 @@ void DISPLAY::TakeSize(const Table& table) {
 
 void DISPLAY::Resized() {
   const Metrics metrics = GetSession().GetPlatform().GetMetrics();
-  if (GetGeometry().height > metrics.screenHeight - kBelowTallWindow)
-    MoveTo(GetGeometry().left, 0);
+  if (GetGeometry().height > metrics.screenHeight - kBelowTallWindow) MoveTo(GetGeometry().left, 0);
 }
 
 void DISPLAY::RightClicked() {
@@ -137,8 +138,6 @@ DISPLAY2::DISPLAY2(Session& session)
   AC_MTR.onRightClick = [this] { RightClicked(); };
 }
 
-Layout DISPLAY2::Arrangement() {
-  return Column({Row({Stretch(), AC_MTR, Stretch()}), Grid1});
-}
+Layout DISPLAY2::Arrangement() { return Column({Row({Stretch(), AC_MTR, Stretch()}), Grid1}); }
 
 }  // namespace korvane

@@ -1,4 +1,5 @@
-// Drawings as values: what a picture control shows, painted by the toolkit in the palette's colours.
+// Drawings as values: what a picture control shows, painted by the toolkit in the palette's
+// colours.
 #pragma once
 
 #include <cstdint>

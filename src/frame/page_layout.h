@@ -24,9 +24,9 @@ struct Placement {
   std::optional<Single> fittedScale;  ///< the scale that Fit to Page found
 };
 
-/// Places an image on paper, in twips. The size on paper is 0.94 of what the scale says, so that the image
-/// stays inside the printable area; the position does not take it into account.
-/// Fails for an image or paper without size.
+/// Places an image on paper, in twips. The size on paper is 0.94 of what the scale says, so that
+/// the image stays inside the printable area; the position does not take it into account. Fails for
+/// an image or paper without size.
 Placement PlaceImage(const PageChoices& choices, Single imageWidth, Single imageHeight,
                      Single paperWidth, Single paperHeight);
 

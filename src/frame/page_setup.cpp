@@ -72,8 +72,8 @@ void Page_Setup::Load() {
   Preview();
 }
 
-/// The list of printers, with the current one chosen and its orientation taken over. Written without
-/// the handlers, since nothing is to be set that isn't set already.
+/// The list of printers, with the current one chosen and its orientation taken over. Written
+/// without the handlers, since nothing is to be set that isn't set already.
 void Page_Setup::TakePrinter() {
   Combo1.SetItems(GetSession().GetPlatform().PrinterNames());
   const auto printer = GetSession().GetPlatform().CurrentPrinter();
@@ -101,8 +101,8 @@ Placement Page_Setup::Place(const Printer& printer) {
                             .centered = chk_center.IsOn(),
                             .topMargin = TwipsOf(ToNumber(txt_top_margin)),
                             .leftMargin = TwipsOf(ToNumber(txt_left_margin))};
-  const Placement place = PlaceImage(choices, imageWidth_, imageHeight_, printer.paperWidth,
-                                     printer.paperHeight);
+  const Placement place =
+      PlaceImage(choices, imageWidth_, imageHeight_, printer.paperWidth, printer.paperHeight);
   if (place.fittedScale) txt_percent.Show(Int(*place.fittedScale * 100));
   return place;
 }
@@ -116,18 +116,14 @@ void Page_Setup::Preview() {
     if (printer) {
       page.width = printer->paperWidth;
       page.height = printer->paperHeight;
-      page.shapes.emplace_back(Path{{{0, 0},
-                                     {page.width, 0},
-                                     {page.width, page.height},
-                                     {0, page.height},
-                                     {0, 0}},
-                                    Ink::Line,
-                                    Ink::Paper,
-                                    page.width / 200});
+      page.shapes.emplace_back(
+          Path{{{0, 0}, {page.width, 0}, {page.width, page.height}, {0, page.height}, {0, 0}},
+               Ink::Line,
+               Ink::Paper,
+               page.width / 200});
       const Placement place = Place(*printer);
-      page.shapes.emplace_back(Snapshot{{place.x.Value(), place.y.Value()},
-                                        place.width.Value(),
-                                        place.height.Value()});
+      page.shapes.emplace_back(
+          Snapshot{{place.x.Value(), place.y.Value()}, place.width.Value(), place.height.Value()});
     }
     Picture1.Draw(std::move(page));
   } catch (const RuntimeFailure&) {

@@ -1,4 +1,5 @@
-// The port through which windows reach the machine: answered by the desktop's toolkit, or by script.
+// The port through which windows reach the machine: answered by the desktop's toolkit, or by
+// script.
 #pragma once
 
 #include <cstdint>
@@ -61,7 +62,8 @@ struct Printer {
   double paperHeight = 0;
 };
 
-/// One page: a line of text at its top, if any, and the captured image in the given place, in twips.
+/// One page: a line of text at its top, if any, and the captured image in the given place, in
+/// twips.
 struct PrintedPage {
   std::optional<std::string> header;
   double x = 0;
@@ -83,7 +85,8 @@ class Platform {
   virtual void WindowUnloaded(Window& window) = 0;
   virtual void WindowActivated(Window& window) = 0;  ///< comes to the front
   /// Draws what has changed since the last time; the window itself if `windowChanged`.
-  virtual void Refresh(Window& window, const std::vector<Control*>& changed, bool windowChanged) = 0;
+  virtual void Refresh(Window& window, const std::vector<Control*>& changed,
+                       bool windowChanged) = 0;
   /// Handles events until the window is hidden or unloaded.
   virtual void RunModal(Window& window) = 0;
   virtual void RunPendingMessages() = 0;
@@ -96,8 +99,8 @@ class Platform {
   virtual std::optional<std::string> ChooseFolder(const std::string& title) = 0;
 
   // Printing.
-  /// Takes a picture of the whole window, its frame included, for pictures and printed pages to come,
-  /// and puts it on the clipboard.
+  /// Takes a picture of the whole window, its frame included, for pictures and printed pages to
+  /// come, and puts it on the clipboard.
   virtual void Capture(Window& window) = 0;
   virtual std::vector<std::string> PrinterNames() = 0;
   /// Nothing where no printer is installed.

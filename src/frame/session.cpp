@@ -136,8 +136,8 @@ void Session::ActivateFront() {
     Activate(*modal);
     return;
   }
-  const auto front = std::find_if(windows_.begin(), windows_.end(),
-                                  [](const auto& w) { return w->IsShown(); });
+  const auto front =
+      std::find_if(windows_.begin(), windows_.end(), [](const auto& w) { return w->IsShown(); });
   if (front != windows_.end()) Activate(**front);
 }
 

@@ -39,8 +39,8 @@ class Session {
   std::string HelpFolder;
   std::string VersionText;
   int HelpContextId = 0;
-  bool AboutMode = false;  ///< the splash window was opened from Help > About
-  bool ShowsSplash = true;  ///< off where nobody watches: the driver starts behind the splash
+  bool AboutMode = false;    ///< the splash window was opened from Help > About
+  bool ShowsSplash = true;   ///< off where nobody watches: the driver starts behind the splash
   short CaseNumber = 0;      ///< the beam case, 1 to 32
   std::string ShapeSection;  ///< what the structural shape windows shall show
   std::string ShapeTitle;
@@ -86,8 +86,8 @@ class Session {
   void Message(std::string text, Icon icon = Icon::None, std::string title = kProgramName);
   Answer Ask(std::string text);
   std::string Setting(const std::string& key, const std::string& fallback);
-  /// A table or data file of this name in `DataPath`, which is put ahead of it as it stands, or else
-  /// in the program folder.
+  /// A table or data file of this name in `DataPath`, which is put ahead of it as it stands, or
+  /// else in the program folder.
   std::optional<std::string> FindTable(const std::string& name) const;
   /// The bytes of that file; fails with "File not found".
   std::string ReadTable(const std::string& name) const;

@@ -61,12 +61,12 @@ class Window {
   virtual MenuBar* Menu() { return nullptr; }
 
   // Handlers of the window.
-  virtual void Load() {}        ///< runs once, after construction and before the window is shown
-  virtual void Activated() {}   ///< it has come to the front
-  virtual void Resized() {}     ///< its size changed, or it is shown for the first time
+  virtual void Load() {}       ///< runs once, after construction and before the window is shown
+  virtual void Activated() {}  ///< it has come to the front
+  virtual void Resized() {}    ///< its size changed, or it is shown for the first time
   virtual void DoubleClicked() {}
   virtual void RightClicked() {}  ///< on the window's own ground
-  virtual void Unloaded() {}    ///< runs once, before it goes
+  virtual void Unloaded() {}      ///< runs once, before it goes
   /// Sees every key before the controls do; true clears the key.
   virtual bool KeyPreview(Key) { return false; }
 
@@ -104,7 +104,7 @@ class Window {
   friend class Person;
   friend class Session;
 
-  void Prepare();  // after construction: layout and tab order
+  void Prepare();                            // after construction: layout and tab order
   void GiveUpFocus(const Control& control);  // it can't be typed in any more
   void AddToTabOrder(const Layout& layout);
   std::vector<Control*> TakeChanges();

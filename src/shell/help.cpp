@@ -52,8 +52,8 @@ void Help::ShowTopic() {
 
 void Help::GoToAddress() { Follow(Text1.Text()); }
 
-// Pages of the product's web server are opened by the system; the view shows those of the help folder
-// and nothing else.
+// Pages of the product's web server are opened by the system; the view shows those of the help
+// folder and nothing else.
 void Help::Follow(const std::string& address) {
   if (address.starts_with(WebAddress("/")))
     GetSession().GetPlatform().Launch(address);

@@ -8,20 +8,20 @@ namespace {
 /// What a click on an entry does.
 struct Action {
   enum class Kind {
-    Submenu,    ///< opens the next level
-    Own,        ///< the main window acts itself, or another program is started
-    Window,     ///< shows a window
-    Table,      ///< shows a table file in a viewer
-    Shapes,     ///< shows a window of structural shapes
-    Tubing,     ///< shows the window of structural tubing
+    Submenu,  ///< opens the next level
+    Own,      ///< the main window acts itself, or another program is started
+    Window,   ///< shows a window
+    Table,    ///< shows a table file in a viewer
+    Shapes,   ///< shows a window of structural shapes
+    Tubing,   ///< shows the window of structural tubing
     Separator,
-    Hidden,     ///< stands in the design, and is never shown
+    Hidden,  ///< stands in the design, and is never shown
   };
 
   Kind kind;
   const char* window = "";
-  const char* us = "";        // table file, section of shapes, or material of tubing
-  const char* metric = "";    // table file where the data differ, title of shapes, or shape of tubing
+  const char* us = "";      // table file, section of shapes, or material of tubing
+  const char* metric = "";  // table file where the data differ, title of shapes, or shape of tubing
   const char* material = "";  // of shapes, where it is told
   const char* page = "";      // help page
   bool slow = false;          // takes long to load
@@ -54,8 +54,8 @@ constexpr Action ShowsDrawing(const char* us, const char* metric, const char* pa
 }
 constexpr Action Shapes(const char* window, const char* section, const char* title,
                         const char* material = "") {
-  return {.kind = Kind::Shapes, .window = window, .us = section, .metric = title,
-          .material = material};
+  return {
+      .kind = Kind::Shapes, .window = window, .us = section, .metric = title, .material = material};
 }
 constexpr Action Tubing(const char* material, const char* shape) {
   return {.kind = Kind::Tubing, .window = "Structural_Tubing", .us = material, .metric = shape};
@@ -310,8 +310,8 @@ void ShowWindow(Session& session, const Action& action) {
 }
 
 void ShowTable(Session& session, const CatalogueRow& row) {
-  // The viewer reads its file at load only. One entry closes the plain viewer before it shows the one
-  // with the drawing, which, if it is open, therefore keeps its table.
+  // The viewer reads its file at load only. One entry closes the plain viewer before it shows the
+  // one with the drawing, which, if it is open, therefore keeps its table.
   const bool uneven = std::string_view(row.name) == "IEC_NEMA";
   session.Unload(uneven ? "DISPLAY" : row.action.window);
   session.DataFileName = session.MetricUnits ? row.action.metric : row.action.us;
@@ -352,7 +352,8 @@ bool IsAvailable(const Session& session, const Action& action) {
     case Kind::Shapes:
     case Kind::Tubing: return session.IsKnown(action.window);
     case Kind::Table:
-      return session.FindTable(action.us).has_value() && session.FindTable(action.metric).has_value();
+      return session.FindTable(action.us).has_value() &&
+             session.FindTable(action.metric).has_value();
     default: return true;
   }
 }

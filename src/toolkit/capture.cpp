@@ -21,8 +21,7 @@ void Take(QWidget& window) {
   const QRect place = window.frameGeometry();
   QPixmap picture;
   if (framed)
-    picture =
-        window.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
+    picture = window.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
   if (picture.isNull()) picture = window.grab();
   Kept() = picture.toImage();
 }

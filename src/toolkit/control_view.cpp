@@ -65,11 +65,13 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
   TextView(TextField& field, const Person& person, QWidget& parent)
       : ViewOf(field, new NumberEdit(&parent), person) {
     const bool number = !field.IsFreeText();
-    shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter
+                               : Qt::AlignLeft | Qt::AlignVCenter);
     shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * (number ? 18 : 40));
     connect(&shown_, &QLineEdit::textEdited, this,
             [this](const QString& text) { person_.Edits(model_, FromQt(text)); });
-    // A right click for the Copy command leaves the focus where it is; see eventFilter for the left.
+    // A right click for the Copy command leaves the focus where it is; see eventFilter for the
+    // left.
     if (field.IsResult()) shown_.setFocusPolicy(Qt::NoFocus);
   }
 
@@ -129,8 +131,7 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
  public:
   ListView(ListBox& list, const Person& person, QWidget& parent)
       : ViewOf(list, new QListWidget(&parent), person) {
-    if (list.HasFixedPitch())
-      shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    if (list.HasFixedPitch()) shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(&shown_, &QListWidget::currentRowChanged, this, [this](int row) {
       if (row >= 0 && row != model_.Index()) person_.Selects(model_, row);
     });
@@ -201,8 +202,8 @@ class OptionView final : public ViewOf<Option, QRadioButton> {
   void Walk(int step) {
     const std::vector<Option*>& options = model_.Group().Options();
     const auto count = static_cast<int>(options.size());
-    auto at = static_cast<int>(std::find(options.begin(), options.end(), &model_) -
-                               options.begin());
+    auto at =
+        static_cast<int>(std::find(options.begin(), options.end(), &model_) - options.begin());
     for (int tried = 1; tried < count; ++tried) {
       at = (at + step + count) % count;
       Option& next = *options[static_cast<std::size_t>(at)];
@@ -249,8 +250,8 @@ class SpinView final : public ViewOf<SpinButton, QWidget> {
       button->setAutoRepeat(true);
       button->setFocusPolicy(Qt::NoFocus);
       button->setFixedHeight(shown_.fontMetrics().height() * 3 / 4);
-      button->setAccessibleName((up ? tr("Increase %1") : tr("Decrease %1"))
-                                    .arg(Plain(spin.Field().Caption())));
+      button->setAccessibleName(
+          (up ? tr("Increase %1") : tr("Decrease %1")).arg(Plain(spin.Field().Caption())));
       connect(button, &QToolButton::clicked, this, [this, up] { person_.Spins(model_, up); });
       column->addWidget(button);
     }
@@ -302,7 +303,8 @@ class LabelView final : public ViewOf<Label, QLabel> {
     constexpr int longLine = 70;  // characters, beyond which a text is broken into lines
     shown_.setText(shown_.buddy() != nullptr ? ToQt(model_.Caption()) : Plain(model_.Caption()));
     shown_.setWordWrap(shown_.text().size() > longLine);
-    if (shown_.wordWrap()) shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * longLine);
+    if (shown_.wordWrap())
+      shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * longLine);
     QFont font = shown_.font();
     if (model_.FontSize() > 0) font.setPointSize(model_.FontSize());
     font.setBold(model_.IsHeading());
@@ -435,7 +437,8 @@ void ControlView::RefreshColors() {
     palette.setColor(ground, QPalette().color(QPalette::Base));
   }
   if (control_.Fore().role == Color::Role::Fixed)
-    palette.setColor(letters, Readable(QColor::fromRgb(control_.Fore().rgb), palette.color(ground)));
+    palette.setColor(letters,
+                     Readable(QColor::fromRgb(control_.Fore().rgb), palette.color(ground)));
   widget_.setPalette(palette);
   widget_.setAutoFillBackground(control_.Back() != usual);
 }
@@ -465,8 +468,7 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& per
       return std::make_unique<SpinView>(static_cast<SpinButton&>(control), person, parent);
     case Control::Kind::Scroll:
       return std::make_unique<ScrollView>(static_cast<ScrollBar&>(control), person, parent);
-    case Control::Kind::Grid:
-      return MakeGridView(static_cast<Grid&>(control), person, parent);
+    case Control::Kind::Grid: return MakeGridView(static_cast<Grid&>(control), person, parent);
     case Control::Kind::Page:
       return std::make_unique<PageBrowser>(static_cast<PageView&>(control), person, parent);
     case Control::Kind::Timer: break;

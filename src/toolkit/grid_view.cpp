@@ -59,8 +59,9 @@ class PaneModel final : public QAbstractTableModel {
       case Qt::TextAlignmentRole:
         return QVariant(AlignmentOf(table.alignments[static_cast<std::size_t>(column)]));
       case Qt::BackgroundRole:
-        return fixedRows_ || fixedColumns_ ? QVariant(QApplication::palette().brush(QPalette::Button))
-                                           : QVariant();
+        return fixedRows_ || fixedColumns_
+                   ? QVariant(QApplication::palette().brush(QPalette::Button))
+                   : QVariant();
       default: return {};
     }
   }
@@ -96,8 +97,9 @@ struct Pane {
     for (int column = 0; column < model.columnCount(); ++column)
       view.setColumnWidth(
           column,
-          std::max(0, PixelsOf(view, table.widths[static_cast<std::size_t>(model.FirstColumn() +
-                                                                           column)])));
+          std::max(0,
+                   PixelsOf(view,
+                            table.widths[static_cast<std::size_t>(model.FirstColumn() + column)])));
   }
 
   int Width() const { return view.horizontalHeader()->length(); }

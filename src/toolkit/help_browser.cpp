@@ -31,10 +31,12 @@ bool HelpBrowser::IsInFolder(const QString& path) const {
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   const QUrl url = source().resolved(name);
-  if (url.isLocalFile() && IsInFolder(url.toLocalFile())) return QTextBrowser::loadResource(type, url);
+  if (url.isLocalFile() && IsInFolder(url.toLocalFile()))
+    return QTextBrowser::loadResource(type, url);
   if (type != QTextDocument::HtmlResource) return {};
-  return QString("<h1>There is no such page</h1><p>The help folder has no page <b>%1</b>.</p>"
-                 "<p><a href=\"%2\">Contents</a></p>")
+  return QString(
+             "<h1>There is no such page</h1><p>The help folder has no page <b>%1</b>.</p>"
+             "<p><a href=\"%2\">Contents</a></p>")
       .arg(url.isLocalFile() ? url.toLocalFile().toHtmlEscaped() : url.toString().toHtmlEscaped(),
            QUrl::fromLocalFile(QDir(folder_).filePath("contents.html")).toString());
 }

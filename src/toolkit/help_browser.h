@@ -14,8 +14,8 @@ class HelpBrowser final : public QTextBrowser {
   void Show(const QString& address);
 
  protected:
-  /// Pages and pictures of the folder. In a page's place that is not there, or not in the folder, stands
-  /// one that says so.
+  /// Pages and pictures of the folder. In a page's place that is not there, or not in the folder,
+  /// stands one that says so.
   QVariant loadResource(int type, const QUrl& name) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 

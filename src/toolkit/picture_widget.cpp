@@ -77,7 +77,8 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double scale = std::min(width() / drawing_.width, height() / drawing_.height);
-  painter.translate((width() - drawing_.width * scale) / 2, (height() - drawing_.height * scale) / 2);
+  painter.translate((width() - drawing_.width * scale) / 2,
+                    (height() - drawing_.height * scale) / 2);
   painter.scale(scale, scale);
   for (const auto& shape : drawing_.shapes)
     std::visit([&](const auto& drawn) { Paint(painter, drawn, palette()); }, shape);

@@ -24,8 +24,7 @@ Printing::~Printing() = default;
 QPrinter& Printing::Device() {
   if (!device_) {
     device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (QPrinterInfo::defaultPrinterName().isEmpty())
-      device_->setOutputFormat(QPrinter::PdfFormat);
+    if (QPrinterInfo::defaultPrinterName().isEmpty()) device_->setOutputFormat(QPrinter::PdfFormat);
   }
   return *device_;
 }
@@ -42,11 +41,10 @@ std::optional<Printer> Printing::Current() {
   const QPageLayout layout = device.pageLayout();
   if (!layout.isValid()) return std::nullopt;
   const QSizeF paper = layout.fullRect(QPageLayout::Point).size() * kTwipsPerPoint;
-  return Printer{
-      device.outputFormat() == QPrinter::PdfFormat ? kPdf : FromQt(device.printerName()),
-      layout.orientation() == QPageLayout::Landscape ? Orientation::Landscape
-                                                     : Orientation::Portrait,
-      paper.width(), paper.height()};
+  return Printer{device.outputFormat() == QPrinter::PdfFormat ? kPdf : FromQt(device.printerName()),
+                 layout.orientation() == QPageLayout::Landscape ? Orientation::Landscape
+                                                                : Orientation::Portrait,
+                 paper.width(), paper.height()};
 }
 
 void Printing::Choose(const std::string& name) {
@@ -71,8 +69,8 @@ void Printing::SetUp(const std::string& title, QWidget* parent) {
 void Printing::Print(const PrintedPage& page, QWidget* parent) {
   QPrinter& device = Device();
   if (device.outputFormat() == QPrinter::PdfFormat) {
-    const QString file = QFileDialog::getSaveFileName(parent, "Print to PDF", "korvane.pdf",
-                                                      "PDF files (*.pdf)");
+    const QString file =
+        QFileDialog::getSaveFileName(parent, "Print to PDF", "korvane.pdf", "PDF files (*.pdf)");
     if (file.isEmpty()) return;
     device.setOutputFileName(file);
   }
@@ -85,9 +83,8 @@ void Printing::Print(const PrintedPage& page, QWidget* parent) {
     painter.drawText(printable.topLeft() + QPointF(0, painter.fontMetrics().ascent()),
                      ToQt(*page.header));
   }
-  painter.drawImage(
-      QRectF(page.x * scale, page.y * scale, page.width * scale, page.height * scale),
-      capture::Last());
+  painter.drawImage(QRectF(page.x * scale, page.y * scale, page.width * scale, page.height * scale),
+                    capture::Last());
   if (!painter.end()) failures::PrinterError();
 }
 

@@ -23,8 +23,8 @@ class Printing {
   void Choose(const std::string& name);
   void SetOrientation(Orientation orientation);
   void SetUp(const std::string& title, QWidget* parent);
-  /// Paints the captured image on one page. Fails with "Printer error". A PDF file is asked for first; no
-  /// file, no page.
+  /// Paints the captured image on one page. Fails with "Printer error". A PDF file is asked for
+  /// first; no file, no page.
   void Print(const PrintedPage& page, QWidget* parent);
 
  private:

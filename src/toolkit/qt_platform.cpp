@@ -199,15 +199,17 @@ void QtPlatform::SetClipboard(const std::string& text) {
 
 void QtPlatform::Launch(const std::string& what) {
   if (what == kCalculator) {
-    for (const char* program : {"gnome-calculator", "kcalc", "qalculate-gtk", "mate-calc",
-                                "galculator", "xcalc"})
+    for (const char* program :
+         {"gnome-calculator", "kcalc", "qalculate-gtk", "mate-calc", "galculator", "xcalc"})
       if (QProcess::startDetached(program, {})) return;
     return;
   }
   QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(what)));
 }
 
-std::optional<std::string> QtPlatform::Setting(const std::string& key) { return settings_.Get(key); }
+std::optional<std::string> QtPlatform::Setting(const std::string& key) {
+  return settings_.Get(key);
+}
 
 void QtPlatform::SaveSetting(const std::string& key, const std::string& value) {
   settings_.Set(key, value);
@@ -217,9 +219,9 @@ void QtPlatform::SaveSetting(const std::string& key, const std::string& value) {
 
 void QtPlatform::Fail(const RuntimeFailure& failure) {
   while (QGuiApplication::overrideCursor() != nullptr) SetHourglass(false);
-  QMessageBox::critical(Front(), kProgramName,
-                        QString("Run-time error '%1':\n\n%2").arg(failure.Number()).arg(
-                            ToQt(failure.Text())));
+  QMessageBox::critical(
+      Front(), kProgramName,
+      QString("Run-time error '%1':\n\n%2").arg(failure.Number()).arg(ToQt(failure.Text())));
   EndProgram(EXIT_FAILURE);
 }
 

@@ -28,8 +28,9 @@ bool FillsWithGrid(const Layout& layout) {
 WindowView::WindowView(Window& window, Session& session)
     : window_(&window), session_(session), person_(session) {
   setObjectName(ToQt(window.Name()));
-  setLayout(Arrange(window.GetLayout(), *this,
-                    [this](Control& control, QWidget& parent) { return WidgetOf(control, parent); }));
+  setLayout(Arrange(window.GetLayout(), *this, [this](Control& control, QWidget& parent) {
+    return WidgetOf(control, parent);
+  }));
   if (FillsWithGrid(window.GetLayout())) layout()->setContentsMargins(0, 0, 0, 0);
   if (MenuBar* menu = window.Menu()) MakeMenu(*menu);
   MakeTimers();
@@ -111,7 +112,9 @@ void WindowView::Refresh(const std::vector<Control*>& changed, bool windowChange
   setWindowTitle(ToQt(window_->Title()));
   RefreshMenu();
   RefreshFocus();
-  if (isVisible() && (window_->HasOwnSize() || window_->HasOwnPlace()) && applied_ != window_->GetGeometry()) ApplyGeometry();
+  if (isVisible() && (window_->HasOwnSize() || window_->HasOwnPlace()) &&
+      applied_ != window_->GetGeometry())
+    ApplyGeometry();
 }
 
 void WindowView::RefreshControl(Control& control) {
@@ -210,7 +213,7 @@ void WindowView::ApplyGeometry() {
 
 void WindowView::ReportGeometry() {
   if (window_ == nullptr || !isVisible()) return;
-  const auto state = isMinimized()                       ? Window::State::Minimized
+  const auto state = isMinimized()                     ? Window::State::Minimized
                      : isMaximized() || isFullScreen() ? Window::State::Maximized
                                                        : Window::State::Normal;
   // The window system puts its frame around the window some time after it is shown; the size told

@@ -33,8 +33,10 @@ TEST(Conversions, MalformedFilesFail) {
   };
   std::string many;
   for (int i = 0; i < 2001; ++i) many += "a,b,1,0,0,0\n";
-  const Case kCases[] = {
-      {"a,b,1,0,-1", 62}, {"a,b,one,0,-1,0", 13}, {"a,b,1,0,40000,0", 6}, {many + "a,b,1,0,0,0", 9}};
+  const Case kCases[] = {{"a,b,1,0,-1", 62},
+                         {"a,b,one,0,-1,0", 13},
+                         {"a,b,1,0,40000,0", 6},
+                         {many + "a,b,1,0,0,0", 9}};
   EXPECT_EQ(ParseConversions(many).size(), 2001U);
   for (const Case& test : kCases) {
     try {
@@ -71,7 +73,8 @@ TEST(Conversions, SharedOnesKeepTheirConstants) {
       {KilometersToMiles(10), 6.214},
   };
   for (const Case& test : kCases)
-    EXPECT_NEAR(test.result.Value(), test.expected, 1e-6 * test.expected * (test.expected < 0 ? -1 : 1));
+    EXPECT_NEAR(test.result.Value(), test.expected,
+                1e-6 * test.expected * (test.expected < 0 ? -1 : 1));
   static_assert(std::is_same_v<decltype(TimesThousand(1)), Single>);
 }
 

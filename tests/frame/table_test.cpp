@@ -1,4 +1,5 @@
-// Table files: what is read, what is refused, and that nothing is taken for cells that aren't there.
+// Table files: what is read, what is refused, and that nothing is taken for cells that aren't
+// there.
 #include "frame/table.h"
 
 #include <gtest/gtest.h>
