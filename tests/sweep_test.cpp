@@ -103,6 +103,7 @@ class Sweep : public ::testing::TestWithParam<Swept> {
 
   /// The window under test, opened anew if something has closed it.
   Window& Open() {
+    suite.session.DataFileName = "Constants.dat";  // for the table viewers
     suite.Shows(GetParam().window);
     return *suite.session.Find(GetParam().window);
   }

@@ -14,8 +14,9 @@ namespace korvane {
 
 class Interpreter {
  public:
-  using Input = std::function<std::optional<std::string>()>;  ///< a line without its end; none: over
-  using Output = std::function<void(const std::string&)>;     ///< takes a line, and flushes it
+  using Input =
+      std::function<std::optional<std::string>()>;         ///< a line without its end; none: over
+  using Output = std::function<void(const std::string&)>;  ///< takes a line, and flushes it
 
   /// Starts where the desktop program stands when its main window has opened.
   Interpreter(Input input, Output output, std::string programFolder,
@@ -42,7 +43,7 @@ class Interpreter {
   std::span<const WindowUnit> catalogue_;
   ScriptedPlatform platform_;
   std::unique_ptr<Session> session_;
-  std::string inUse_;  // the window that takes commands, while it is open
+  std::string inUse_;                        // the window that takes commands, while it is open
   std::optional<std::string> closingReply_;  // to the command that closed a modal window
 };
 

@@ -63,6 +63,13 @@ void ScriptedPlatform::WindowShown(Window& window, bool loaded) {
 
 void ScriptedPlatform::WindowUnloaded(Window& window) { Notice("unloaded " + window.Name()); }
 
+// Pages are there as soon as they are asked for.
+void ScriptedPlatform::Refresh(Window&, const std::vector<Control*>& changed, bool) {
+  for (Control* control : changed)
+    if (auto* view = dynamic_cast<PageView*>(control); view != nullptr && view->TakeNavigation())
+      view->Arrived();
+}
+
 void ScriptedPlatform::RunModal(Window& window) {
   if (onModal && window.IsShown()) onModal(window);
 }
@@ -95,6 +102,49 @@ std::optional<std::string> ScriptedPlatform::ChooseFile(const FileDialog& dialog
 std::optional<std::string> ScriptedPlatform::ChooseFolder(const std::string& title) {
   Notice("dialog open " + Escaped(title) + " | ");
   return TakeReply().file;
+}
+
+void ScriptedPlatform::Capture(Window&) { Notice("clipboard [image]"); }
+
+std::vector<std::string> ScriptedPlatform::PrinterNames() {
+  std::vector<std::string> names;
+  for (const Printer& printer : printers) names.push_back(printer.name);
+  return names;
+}
+
+std::optional<Printer> ScriptedPlatform::CurrentPrinter() {
+  return printer_ < printers.size() ? std::optional(printers[printer_]) : std::nullopt;
+}
+
+void ScriptedPlatform::ChoosePrinter(const std::string& name) {
+  for (std::size_t i = 0; i < printers.size(); ++i)
+    if (printers[i].name == name) printer_ = i;
+}
+
+void ScriptedPlatform::SetOrientation(Orientation orientation) {
+  if (printer_ >= printers.size()) return;
+  Printer& printer = printers[printer_];
+  if (printer.orientation != orientation) std::swap(printer.paperWidth, printer.paperHeight);
+  printer.orientation = orientation;
+}
+
+void ScriptedPlatform::Print(const PrintedPage& page) {
+  if (printers.empty()) failures::PrinterError();
+  printed.push_back(page);
+}
+
+Metrics ScriptedPlatform::GetMetrics() {
+  // A screen of 1920 by 1080 at 96 dots per inch, with frames as wide as usual.
+  return {.screenWidth = 28800,
+          .screenHeight = 16200,
+          .frameWidth = 60,
+          .captionHeight = 435,
+          .gridRowHeight = 240};
+}
+
+std::string ScriptedPlatform::Get(const std::string& address) {
+  const auto page = webPages.find(address);
+  return page == webPages.end() ? "" : page->second;
 }
 
 void ScriptedPlatform::Beep() { Notice("beep"); }

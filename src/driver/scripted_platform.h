@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "frame/platform.h"
 
@@ -19,13 +20,18 @@ class ScriptedPlatform final : public Platform {
   /// Runs while a window is modal, until that window is hidden or unloaded.
   std::function<void(Window&)> onModal;
 
-  /// The next box or dialog is answered so. With nothing queued a message is answered OK, a question
-  /// and a dialog Cancel.
+  /// The next box or dialog is answered so. With nothing queued a message is answered OK, a
+  /// question and a dialog Cancel.
   void Queue(Answer answer) { answers_.push_back({answer, std::nullopt}); }
   void QueueFile(std::string path) { answers_.push_back({Answer::Cancel, std::move(path)}); }
 
   /// Forgets settings, clipboard and queued answers.
   void Reset();
+
+  // What the machine has. No printer, and no web server, unless the script gives one.
+  std::vector<Printer> printers;
+  std::map<std::string, std::string> webPages;
+  std::vector<PrintedPage> printed;
 
   std::map<std::string, std::string> settings;
   std::string clipboard;
@@ -39,7 +45,7 @@ class ScriptedPlatform final : public Platform {
   void WindowHidden(Window&) override {}
   void WindowUnloaded(Window& window) override;
   void WindowActivated(Window&) override {}
-  void Refresh(Window&, const std::vector<Control*>&, bool) override {}
+  void Refresh(Window& window, const std::vector<Control*>& changed, bool) override;
   void RunModal(Window& window) override;
   void RunPendingMessages() override {}
   void SetHourglass(bool) override {}
@@ -47,6 +53,15 @@ class ScriptedPlatform final : public Platform {
   Answer Ask(const Question& question) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
   std::optional<std::string> ChooseFolder(const std::string& title) override;
+  void Capture(Window& window) override;
+  std::vector<std::string> PrinterNames() override;
+  std::optional<Printer> CurrentPrinter() override;
+  void ChoosePrinter(const std::string& name) override;
+  void SetOrientation(Orientation orientation) override;
+  void SetUpPrinter(const std::string&) override {}
+  void Print(const PrintedPage& page) override;
+  Metrics GetMetrics() override;
+  std::string Get(const std::string& address) override;
   void Beep() override;
   void SetClipboard(const std::string& text) override;
   void Launch(const std::string& what) override;
@@ -65,9 +80,11 @@ class ScriptedPlatform final : public Platform {
   Reply TakeReply();
 
   std::deque<Reply> answers_;
+  std::size_t printer_ = 0;
 };
 
-/// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r \t.
+/// The driver's one-line form of a text: backslash, line feed, carriage return and tab as \\ \n \r
+/// \t.
 std::string Escaped(std::string_view text);
 std::string Unescaped(std::string_view text);
 

@@ -68,18 +68,18 @@ constexpr KeyName kKeys[] = {{"F1", Key::F1},
 }  // namespace
 
 const Verbs::Entry Verbs::kEntries[] = {
-    {"reset", &Verbs::Reset},       {"units", &Verbs::Units},     {"data", &Verbs::Data},
-    {"menu", &Verbs::Menu},         {"show", &Verbs::Show},       {"use", &Verbs::Use},
-    {"unload", &Verbs::Unload},     {"answer", &Verbs::Answer},   {"focus", &Verbs::Focus},
-    {"type", &Verbs::Type},         {"enter", &Verbs::Enter},     {"key", &Verbs::PressKey},
-    {"click", &Verbs::Click},       {"select", &Verbs::Select},   {"pick", &Verbs::Pick},
-    {"spin", &Verbs::Spin},         {"scroll", &Verbs::Scroll},   {"tick", &Verbs::Tick},
-    {"text", &Verbs::Text},         {"caption", &Verbs::Caption}, {"visible", &Verbs::Visible},
-    {"enabled", &Verbs::Enabled},   {"locked", &Verbs::Locked},   {"checked", &Verbs::Checked},
-    {"items", &Verbs::Items},       {"index", &Verbs::Index},     {"back", &Verbs::Back},
-    {"cell", &Verbs::Cell},         {"rows", &Verbs::Rows},       {"columns", &Verbs::Columns},
-    {"title", &Verbs::Title},       {"focused", &Verbs::Focused}, {"controls", &Verbs::Controls},
-    {"global", &Verbs::Global},     {"setting", &Verbs::Setting}, {"windows", &Verbs::Windows},
+    {"reset", &Verbs::Reset},     {"units", &Verbs::Units},     {"data", &Verbs::Data},
+    {"menu", &Verbs::Menu},       {"show", &Verbs::Show},       {"use", &Verbs::Use},
+    {"unload", &Verbs::Unload},   {"answer", &Verbs::Answer},   {"focus", &Verbs::Focus},
+    {"type", &Verbs::Type},       {"enter", &Verbs::Enter},     {"key", &Verbs::PressKey},
+    {"click", &Verbs::Click},     {"select", &Verbs::Select},   {"pick", &Verbs::Pick},
+    {"spin", &Verbs::Spin},       {"scroll", &Verbs::Scroll},   {"tick", &Verbs::Tick},
+    {"text", &Verbs::Text},       {"caption", &Verbs::Caption}, {"visible", &Verbs::Visible},
+    {"enabled", &Verbs::Enabled}, {"locked", &Verbs::Locked},   {"checked", &Verbs::Checked},
+    {"items", &Verbs::Items},     {"index", &Verbs::Index},     {"back", &Verbs::Back},
+    {"cell", &Verbs::Cell},       {"rows", &Verbs::Rows},       {"columns", &Verbs::Columns},
+    {"title", &Verbs::Title},     {"focused", &Verbs::Focused}, {"controls", &Verbs::Controls},
+    {"global", &Verbs::Global},   {"setting", &Verbs::Setting}, {"windows", &Verbs::Windows},
     {"dump", &Verbs::Dump},
 };
 
@@ -268,8 +268,8 @@ std::string Verbs::PressKey() {
 
 std::string Verbs::Click() {
   auto& control = TakeUsable<Control>("a control");
-  const bool shows = control.GetKind() == Control::Kind::Label ||
-                     control.GetKind() == Control::Kind::Picture;
+  const bool shows =
+      control.GetKind() == Control::Kind::Label || control.GetKind() == Control::Kind::Picture;
   if (!shows && dynamic_cast<const FocusControl*>(&control) == nullptr)
     throw NotUnderstood{"not a control that can be clicked"};
   Person(session_).Clicks(control);
@@ -392,8 +392,7 @@ std::string Verbs::Windows() {
 std::string Verbs::Dump() {
   for (const Control* control : InUse().Controls()) {
     const std::string* text = control->IsVisible() ? TextOf(*control) : nullptr;
-    if (text != nullptr)
-      interpreter_.output_("! text " + control->Name() + ' ' + Escaped(*text));
+    if (text != nullptr) interpreter_.output_("! text " + control->Name() + ' ' + Escaped(*text));
   }
   return Nothing();
 }

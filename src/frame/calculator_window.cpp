@@ -30,8 +30,7 @@ void CalculatorWindow::ExitsWith(Command& command) {
 }
 
 void CalculatorWindow::PrintsWith(Command& command) {
-  // Nothing can be printed until the suite has its page dialog.
-  command.SetEnabled(GetSession().IsKnown("Page_Setup"));
+  command.onClick = [this] { GetSession().PrintWindow(*this); };
 }
 
 void CalculatorWindow::SavesWith(Command& command, const DataFile& data) {

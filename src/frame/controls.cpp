@@ -278,12 +278,6 @@ void ScrollBar::SetValue(int value) {
 
 // ---- Grid ----
 
-const std::string& Table::At(int row, int column) const {
-  if (row < 0 || row >= rows || column < 0 || column >= columns) failures::SubscriptOutOfRange();
-  return texts[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
-               static_cast<std::size_t>(column)];
-}
-
 Grid::Grid(Window& window, std::string name, const Beside& caption)
     : CaptionedControl(window, std::move(name), Kind::Grid, caption) {
   SetBack(Color::Window());
@@ -291,6 +285,7 @@ Grid::Grid(Window& window, std::string name, const Beside& caption)
 
 void Grid::SetContent(Table table) {
   table_ = std::move(table);
+  ++version_;
   row_ = table_.fixedRows;
   column_ = table_.fixedColumns;
   Changed();
@@ -310,19 +305,38 @@ PageView::PageView(Window& window, std::string name)
   SetBack(Color::Window());
 }
 
-void PageView::Navigate(std::string address) {
-  address_ = std::move(address);
-  step_ = Step::Reload;
+const std::string& PageView::Address() const {
+  static const std::string none;
+  return history_.empty() ? none : history_[at_];
+}
+
+void PageView::Navigate(const std::string& address) {
+  if (history_.empty() || history_[at_] != address) {
+    if (!history_.empty()) history_.resize(at_ + 1);
+    history_.push_back(address);
+    at_ = history_.size() - 1;
+  }
+  Reload();
+}
+
+void PageView::Reload() {
+  navigates_ = true;
   Changed();
 }
 
-void PageView::Go(Step step) {
-  step_ = step;
-  Changed();
+void PageView::Back() {
+  if (at_ == 0) return;
+  --at_;
+  Reload();
 }
 
-void PageView::Arrived(std::string address) {
-  address_ = std::move(address);
+void PageView::Forward() {
+  if (at_ + 1 >= history_.size()) return;
+  ++at_;
+  Reload();
+}
+
+void PageView::Arrived() {
   if (onArrived) onArrived();
 }
 

@@ -1,8 +1,8 @@
 // The named controls that windows are made of.
 //
-// A control holds its own state; what code does to it (SetText, SetVisible, Choose) is one road, what
-// the person does (Person, see person.h) the other. Both run the handlers below, and every change
-// reaches the toolkit through Window::Changed.
+// A control holds its own state; what code does to it (SetText, SetVisible, Choose) is one road,
+// what the person does (Person, see person.h) the other. Both run the handlers below, and every
+// change reaches the toolkit through Window::Changed.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +19,7 @@
 #include "frame/drawing.h"
 #include "frame/mask.h"
 #include "frame/number_text.h"
+#include "frame/table.h"
 
 namespace korvane {
 
@@ -40,7 +41,20 @@ struct UnitText {
 class Control {
  public:
   enum class Kind : std::uint8_t {
-    Text, Combo, List, Option, Check, Command, Label, Picture, Frame, Timer, Spin, Scroll, Grid, Page,
+    Text,
+    Combo,
+    List,
+    Option,
+    Check,
+    Command,
+    Label,
+    Picture,
+    Frame,
+    Timer,
+    Spin,
+    Scroll,
+    Grid,
+    Page,
   };
 
   /// A control registers itself with its window, in the order of construction.
@@ -118,10 +132,17 @@ class Picture : public Control {
   const Drawing& Shown() const { return drawing_; }
   void Draw(Drawing drawing);
 
+  /// Fills the space that the window leaves, at whatever scale, instead of having a size of its
+  /// own.
+  bool FillsSpace() const { return fillsSpace_; }
+  void FillSpace() { fillsSpace_ = true; }
+
   Handler onClick;
+  Handler onRightClick;
 
  private:
   Drawing drawing_;
+  bool fillsSpace_ = false;
 };
 
 class Frame : public Control {
@@ -162,8 +183,8 @@ class FocusControl : public Control {
   Handler onLeave;
 };
 
-/// What stands beside a field as its caption: a label or a frame of the window with a name of its own,
-/// or a text, which then gets a label without a name.
+/// What stands beside a field as its caption: a label or a frame of the window with a name of its
+/// own, or a text, which then gets a label without a name.
 class Beside {
  public:
   Beside(Control& caption) : control_(&caption) {}
@@ -238,7 +259,8 @@ class Choice : public CaptionedControl {
   void AddItem(std::string item);
   /// The chosen entry, from 0; -1 for none.
   int Index() const { return index_; }
-  /// Code chooses an entry (-1: none), which is handled as a selection. An index past the end fails.
+  /// Code chooses an entry (-1: none), which is handled as a selection. An index past the end
+  /// fails.
   void Select(int index);
   virtual const std::string& Text() const;  ///< of the chosen entry
 
@@ -254,14 +276,21 @@ class Choice : public CaptionedControl {
 class ListBox : public Choice {
  public:
   ListBox(Window& window, std::string name, const Beside& caption);
+
+  /// Its entries are columns made of blanks.
+  bool HasFixedPitch() const { return fixedPitch_; }
+  void MakeFixedPitch() { fixedPitch_ = true; }
+
+ private:
+  bool fixedPitch_ = false;
 };
 
 class Combo : public Choice {
  public:
   enum class Style : bool { Fixed, Editable };
 
-  Combo(Window& window, std::string name, const Beside& caption, std::vector<std::string> items = {},
-        Style style = Style::Fixed);
+  Combo(Window& window, std::string name, const Beside& caption,
+        std::vector<std::string> items = {}, Style style = Style::Fixed);
 
   bool IsEditable() const { return style_ == Style::Editable; }
   void SetItems(std::vector<std::string> items) override;
@@ -355,7 +384,8 @@ class SpinButton : public FocusControl {
 
 class ScrollBar : public CaptionedControl {
  public:
-  ScrollBar(Window& window, std::string name, const Beside& caption, int least, int most, int start);
+  ScrollBar(Window& window, std::string name, const Beside& caption, int least, int most,
+            int start);
 
   int Least() const { return least_; }
   int Most() const { return most_; }
@@ -371,24 +401,13 @@ class ScrollBar : public CaptionedControl {
   int value_;
 };
 
-/// What a grid shows: texts in rows and columns, of which the first may be fixed.
-struct Table {
-  int rows = 0;
-  int columns = 0;
-  int fixedRows = 0;
-  int fixedColumns = 0;
-  std::vector<double> widths;     ///< twips, one a column
-  std::vector<int> alignments;    ///< the grid's code 0 to 9, one a column
-  std::vector<std::string> texts; ///< row by row
-
-  const std::string& At(int row, int column) const;
-};
-
 class Grid : public CaptionedControl {
  public:
   Grid(Window& window, std::string name, const Beside& caption);
 
   const Table& Content() const { return table_; }
+  /// Counts the contents that the grid has had, so that a view knows when to read anew.
+  int Version() const { return version_; }
   void SetContent(Table table);
   int Row() const { return row_; }
   int Column() const { return column_; }
@@ -400,28 +419,41 @@ class Grid : public CaptionedControl {
 
  private:
   Table table_;
+  int version_ = 0;
   int row_ = 0;
   int column_ = 0;
 };
 
-/// A view of help pages.
+/// A view of help pages, with its history.
 class PageView : public FocusControl {
  public:
   PageView(Window& window, std::string name);
 
-  const std::string& Address() const { return address_; }
-  void Navigate(std::string address);
-  enum class Step : std::uint8_t { None, Back, Forward, Reload };
-  void Go(Step step);
-  Step TakeStep() { return std::exchange(step_, Step::None); }
-  /// The view tells where a navigation ended.
-  void Arrived(std::string address);
+  /// The folder whose pages are shown; no other file is.
+  const std::string& Folder() const { return folder_; }
+  void SetFolder(std::string folder) { folder_ = std::move(folder); }
+
+  /// The page that is shown, or about to be; empty before the first.
+  const std::string& Address() const;
+  void Navigate(const std::string& address);
+  void Reload();
+  void Back();     ///< nothing at the first page of the history
+  void Forward();  ///< nothing at the last one
+
+  /// Whether a page is to be shown that has not been asked for yet.
+  bool TakeNavigation() { return std::exchange(navigates_, false); }
+  /// The view has shown the page.
+  void Arrived();
 
   Handler onArrived;
+  /// A link was clicked.
+  std::function<void(const std::string&)> onFollow;
 
  private:
-  std::string address_;
-  Step step_ = Step::None;
+  std::string folder_;
+  std::vector<std::string> history_;
+  std::size_t at_ = 0;
+  bool navigates_ = false;
 };
 
 /// Elements T(0), T(1), ... of one name.
@@ -434,8 +466,8 @@ class ControlArray {
                const Arguments&... arguments)
       : first_(first) {
     for (int i = first; i <= last; ++i)
-      elements_.push_back(std::make_unique<Element>(
-          window, name + '(' + std::to_string(i) + ')', arguments...));
+      elements_.push_back(
+          std::make_unique<Element>(window, name + '(' + std::to_string(i) + ')', arguments...));
   }
 
   /// An index out of bounds fails with "Subscript out of range".

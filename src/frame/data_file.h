@@ -1,7 +1,7 @@
 // Saving and loading a calculator's values: small text files with the extension .dta.
 //
-// A file is its window's signature on the first line, then one line "label,value" per record, in the
-// code page 1252 with CR LF line ends. Labels are for readers; loading goes by order alone.
+// A file is its window's signature on the first line, then one line "label,value" per record, in
+// the code page 1252 with CR LF line ends. Labels are for readers; loading goes by order alone.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// Drawings as values: what a picture control shows, painted by the toolkit in the palette's colours.
+// Drawings as values: what a picture control shows, painted by the toolkit in the palette's
+// colours.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +20,7 @@ enum class Ink : std::uint8_t {
   Line,    ///< outlines and letters: the text colour
   Body,    ///< the fill of solid parts
   Accent,  ///< flow, loads, what the eye shall follow
+  Paper,   ///< white in every palette
 };
 
 /// A line through the points, closed and filled where a fill is given.
@@ -36,11 +38,18 @@ struct Letters {
   Ink ink = Ink::Line;
 };
 
+/// The picture of a window that was captured last.
+struct Snapshot {
+  Point at;  ///< its top left corner
+  double width = 0;
+  double height = 0;
+};
+
 /// Shapes in a box of the given size, which the toolkit scales to the picture's place.
 struct Drawing {
   double width = 0;
   double height = 0;
-  std::vector<std::variant<Path, Letters>> shapes;
+  std::vector<std::variant<Path, Letters, Snapshot>> shapes;
 };
 
 /// Points of an arc about a centre; angles in degrees, counted clockwise from the right.

@@ -1,7 +1,6 @@
 #include "frame/files.h"
 
 #include <fcntl.h>
-#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +10,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "frame/names.h"
 #include "frame/runtime_failure.h"
 
 namespace korvane {
@@ -69,7 +69,7 @@ class File {
 /// A file beside the target that goes away again unless it takes the target's place.
 class Temporary {
  public:
-  explicit Temporary(const std::string& target) : path_(target + ".XXXXXX") {
+  explicit Temporary(const fs::path& target) : path_(target.parent_path() / ".korvane-XXXXXX") {
     descriptor_ = ::mkostemp(path_.data(), O_CLOEXEC);
     if (descriptor_ < 0) failures::PathAccess();
   }
@@ -114,12 +114,24 @@ mode_t ModeFor(const std::string& path) {
   return 0666 & ~mask;
 }
 
+/// Where a link leads, over further links, whether or not there is a file yet; else the path
+/// itself.
+fs::path Followed(fs::path path) {
+  constexpr int mostLinks = 40;
+  std::error_code error;
+  for (int links = 0; fs::is_symlink(path, error); ++links) {
+    if (links == mostLinks) failures::PathAccess();
+    path = path.parent_path() / fs::read_symlink(path, error);
+  }
+  return path;
+}
+
 /// The entry of a folder with this name in any case.
 std::optional<fs::path> FindEntry(const fs::path& folder, const std::string& name) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    if (::strcasecmp(entry->path().filename().c_str(), name.c_str()) == 0) return entry->path();
+    if (SameName(entry->path().filename().native(), name)) return entry->path();
   }
   return std::nullopt;
 }
@@ -156,10 +168,7 @@ std::string ReadFile(const std::string& path) {
 
 void WriteFile(const std::string& path, std::string_view bytes) {
   if (path.empty() || path.find('\0') != std::string::npos) failures::PathAccess();
-  std::error_code error;
-  const fs::path linked = fs::weakly_canonical(path, error);
-  const std::string target = error ? path : linked.string();
-
+  const std::string target = Followed(path).string();
   const mode_t mode = ModeFor(target);
   Temporary temporary(target);
   File file(temporary.Descriptor());

@@ -20,9 +20,9 @@ struct Decimal {
 
   explicit Decimal(double value) {
     char text[40];
-    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific,
-                                   kDigits - 1)
-                         .ptr;
+    const auto end =
+        std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, kDigits - 1)
+            .ptr;
     const char* at = text;
     if (*at == '-') {
       negative = true;
@@ -106,9 +106,9 @@ std::string Scientific(Decimal value, Mask mask) {
   AppendPlaces(text, value, mask);
   text += exponent < 0 ? "E-" : "E+";
   const std::string size = std::to_string(std::abs(exponent));
-  text.append(static_cast<std::size_t>(
-                  std::max(0, mask.ExponentZeros() - static_cast<int>(size.size()))),
-              '0');
+  text.append(
+      static_cast<std::size_t>(std::max(0, mask.ExponentZeros() - static_cast<int>(size.size()))),
+      '0');
   return text + size;
 }
 

@@ -19,9 +19,9 @@ class Mask {
   /// For masks known only at run time; a text that is not a mask is an invalid call.
   static constexpr Mask Parse(std::string_view mask);
 
-  int WholeZeros() const { return wholeZeros_; }        ///< whole digits always shown
-  int Places() const { return places_; }                ///< decimal places at most
-  int PlaceZeros() const { return placeZeros_; }        ///< decimal places always shown
+  int WholeZeros() const { return wholeZeros_; }  ///< whole digits always shown
+  int Places() const { return places_; }          ///< decimal places at most
+  int PlaceZeros() const { return placeZeros_; }  ///< decimal places always shown
   bool HasPoint() const { return point_; }
   bool Groups() const { return groups_; }
   int ExponentZeros() const { return exponentZeros_; }  ///< least digits of the exponent; 0: none
@@ -76,7 +76,7 @@ constexpr Mask Mask::Parse(std::string_view text) {
   }
   if (text.substr(at).starts_with("E+")) {
     for (at += 2; at < text.size() && text[at] == '0'; ++at) ++mask.exponentZeros_;
-    if (mask.exponentZeros_ == 0) failures::InvalidCall();
+    if (mask.exponentZeros_ == 0 || mask.wholeZeros_ == 0) failures::InvalidCall();
   }
   if (!digits || at != text.size()) failures::InvalidCall();
   return mask;

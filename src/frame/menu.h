@@ -9,7 +9,8 @@
 namespace korvane {
 
 struct MenuEntry {
-  int depth = 0;  ///< 0 stands in the bar itself; an entry belongs to the last one that is shallower
+  int depth =
+      0;  ///< 0 stands in the bar itself; an entry belongs to the last one that is shallower
   std::string caption;
   std::string name;
   std::function<void()> onClick;  ///< none for submenus and separators

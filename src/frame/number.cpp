@@ -8,7 +8,8 @@ namespace {
 template <class Integer>
 Integer ToWhole(Double value) {
   const double rounded = std::nearbyint(value.Value());  // halves to even, the default mode
-  if (rounded < std::numeric_limits<Integer>::min() || rounded > std::numeric_limits<Integer>::max())
+  if (rounded < std::numeric_limits<Integer>::min() ||
+      rounded > std::numeric_limits<Integer>::max())
     failures::Overflow();
   return static_cast<Integer>(rounded);
 }
@@ -20,20 +21,6 @@ Double Power(Double base, Double exponent) {
   if (std::isnan(result)) failures::InvalidCall();
   if (std::isinf(result) && base.Value() == 0) failures::DivisionByZero();
   return Double::FromStep(result);
-}
-
-Double Sqrt(Double x) {
-  if (x.Value() < 0) [[unlikely]]
-    failures::InvalidCall();
-  return Double::FromStep(std::sqrt(x.Value()));
-}
-
-Double Exp(Double x) { return Double::FromStep(std::exp(x.Value())); }
-
-Double Ln(Double x) {
-  if (x.Value() <= 0) [[unlikely]]
-    failures::InvalidCall();
-  return Double::FromStep(std::log(x.Value()));
 }
 
 Double ArcCos(Double x) { return Atan(-x / Sqrt(1 - x * x)) + 1.5708; }

@@ -8,9 +8,12 @@
 // RuntimeFailure at that step, so no infinity and no NaN is ever stored or shown.
 #pragma once
 
+#include <bit>
 #include <cmath>
 #include <compare>
 #include <concepts>
+#include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include "frame/runtime_failure.h"
@@ -39,7 +42,9 @@ concept Whole = std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, c
 template <class T>
 concept Operand = CheckedNumber<T> || Whole<T> || std::same_as<T, double>;
 template <class A, class B>
-concept Pair = Operand<A> && Operand<B> && (CheckedNumber<A> || CheckedNumber<B>);
+inline constexpr bool anyChecked = isChecked<A> || isChecked<B>;
+template <class A, class B>
+concept Pair = Operand<A> && Operand<B> && anyChecked<A, B>;
 
 template <class T>
 inline constexpr bool staysSingle = std::same_as<T, Single> || Whole<T>;
@@ -69,18 +74,25 @@ class Checked {
   constexpr Checked& operator*=(detail::Operand auto other) { return *this = *this * other; }
   constexpr Checked& operator/=(detail::Operand auto other) { return *this = *this / other; }
 
-  /// The result of one arithmetic step; overflow if it left the finite numbers.
-  static constexpr Checked FromStep(Real value) {
+  /// The result of one arithmetic step. If it left the finite numbers the step fails: with
+  /// overflow, or with the failure that the step tells.
+  static constexpr Checked FromStep(Real value, auto fail) {
     if (!IsFinite(value)) [[unlikely]]
-      failures::Overflow();
+      fail();
     Checked result;
     result.value_ = value;
     return result;
   }
+  static constexpr Checked FromStep(Real value) { return FromStep(value, failures::Overflow); }
 
  private:
-  // x - x is 0 for every finite x, and NaN for all others: one subtraction and one test.
-  static constexpr bool IsFinite(Real value) { return value - value == 0; }
+  // Infinities and NaNs have the largest bits once the sign is shifted out. A test of whole numbers
+  // runs beside the arithmetic; one of floating-point numbers queues up with it.
+  static constexpr bool IsFinite(Real value) {
+    using Bits = std::conditional_t<std::same_as<Real, float>, std::uint32_t, std::uint64_t>;
+    constexpr auto infinity = std::bit_cast<Bits>(std::numeric_limits<Real>::infinity());
+    return (std::bit_cast<Bits>(value) << 1) < (infinity << 1);
+  }
   static constexpr Real Store(auto value) { return FromStep(static_cast<Real>(value)).value_; }
 
   Real value_ = 0;
@@ -124,16 +136,14 @@ template <class A, class B>
 constexpr auto operator/(A a, B b) {
   using Real = detail::Meet<A, B>;
   const Real divisor = detail::Raw<Real>(b);
-  if (divisor == 0) [[unlikely]]
-    failures::DivisionByZero();
-  return Checked<Real>::FromStep(detail::Raw<Real>(a) / divisor);
+  return Checked<Real>::FromStep(detail::Raw<Real>(a) / divisor, [divisor] {
+    divisor == 0 ? failures::DivisionByZero() : failures::Overflow();
+  });
 }
 
 template <class A, class B>
   requires detail::Pair<A, B>
-constexpr bool operator==(A a, B b) {
-  return detail::Raw<double>(a) == detail::Raw<double>(b);
-}
+constexpr bool operator==(A a, B b) { return detail::Raw<double>(a) == detail::Raw<double>(b); }
 
 template <class A, class B>
   requires detail::Pair<A, B>
@@ -155,9 +165,16 @@ Checked<Real> Abs(Checked<Real> x) {
 }
 
 Double Power(Double base, Double exponent);  ///< Fails for a negative base with a fraction.
-Double Sqrt(Double x);                       ///< Fails below 0.
-Double Exp(Double x);
-Double Ln(Double x);  ///< Natural logarithm; fails at 0 and below.
+
+/// Fails below 0.
+inline Double Sqrt(Double x) {
+  return Double::FromStep(std::sqrt(x.Value()), failures::InvalidCall);
+}
+
+inline Double Exp(Double x) { return Double::FromStep(std::exp(x.Value())); }
+
+/// Natural logarithm; fails at 0 and below.
+inline Double Ln(Double x) { return Double::FromStep(std::log(x.Value()), failures::InvalidCall); }
 
 inline Double Sin(Double x) { return Double::FromStep(std::sin(x.Value())); }
 inline Double Cos(Double x) { return Double::FromStep(std::cos(x.Value())); }

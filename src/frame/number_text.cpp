@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 namespace korvane {
 namespace {
@@ -79,32 +81,36 @@ bool IsTooLarge(std::string_view plain) {
   const bool negativeExponent = plain[e + 1] == '-';
   long long exponent = 0;
   const std::string_view digits = plain.substr(e + (negativeExponent ? 2 : 1));
-  const auto [end, error] =
-      std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
   if (error != std::errc{}) return !negativeExponent;
   const auto place = static_cast<long long>(point) - static_cast<long long>(first);
   return place + (negativeExponent ? -exponent : exponent) > 0;
 }
 
-/// `digits` significant digits without trailing zeros, as "%.*G" would lay them out.
-std::string General(double value, int digits) {
-  char scientific[40];
-  const auto end =
-      std::to_chars(scientific, scientific + sizeof scientific, value, std::chars_format::scientific,
-                    digits - 1)
-          .ptr;
-  const std::string_view text(scientific, end);
-  const bool negative = text.front() == '-';
+/// The shortest text that gives the value back, or `digits` significant digits without trailing
+/// zeros where that takes more, laid out as "%.*G" would.
+template <class Real>
+std::string General(Real value, int digits) {
+  char buffer[40];
+  const auto scientific = [&](auto... precision) {
+    return std::string_view(buffer, std::to_chars(buffer, std::end(buffer), value,
+                                                  std::chars_format::scientific, precision...)
+                                        .ptr);
+  };
+  const std::size_t sign = std::signbit(value) ? 1 : 0;
+  std::string_view text = scientific();
+  if (text.find('e') > sign + 1 + static_cast<std::size_t>(digits)) text = scientific(digits - 1);
   const auto e = text.find('e');
   int exponent = 0;
-  std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), end, exponent);
+  std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), text.data() + text.size(),
+                  exponent);
 
-  std::string figures(1, text[negative ? 1 : 0]);
-  if (digits > 1) figures += text.substr(negative ? 3 : 2, static_cast<std::size_t>(digits) - 1);
+  std::string figures(text.substr(sign, e - sign));
+  std::erase(figures, '.');
   figures.erase(figures.find_last_not_of('0') + 1);
   if (figures.empty()) return "0";
 
-  std::string result = negative ? "-" : "";
+  std::string result(sign, '-');
   const auto count = static_cast<int>(figures.size());
   if (exponent < -4 || exponent >= digits) {
     result += figures[0];
@@ -112,7 +118,8 @@ std::string General(double value, int digits) {
     const int size = std::abs(exponent);
     return result + (exponent < 0 ? "E-" : "E+") + (size < 10 ? "0" : "") + std::to_string(size);
   }
-  if (exponent < 0) return result + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + figures;
+  if (exponent < 0)
+    return result + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + figures;
   if (count <= exponent + 1)
     return result + figures + std::string(static_cast<std::size_t>(exponent + 1 - count), '0');
   return result + figures.insert(static_cast<std::size_t>(exponent) + 1, 1, '.');
@@ -141,7 +148,7 @@ Double Strict(std::string_view text) {
   return *value;
 }
 
-std::string PlainText(Single value) { return General(static_cast<double>(value.Value()), 7); }
+std::string PlainText(Single value) { return General(value.Value(), 7); }
 
 std::string PlainText(Double value) { return General(value.Value(), 15); }
 

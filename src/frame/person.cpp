@@ -29,8 +29,10 @@ void Person::Edits(Combo& combo, std::string text) const {
 void Person::Types(FocusControl& control, std::string text) const {
   const Session::Hold hold(session_);
   if (!Focuses(control)) return;
-  if (auto* field = dynamic_cast<TextField*>(&control)) Edits(*field, std::move(text));
-  else if (auto* combo = dynamic_cast<Combo*>(&control)) Edits(*combo, std::move(text));
+  if (auto* field = dynamic_cast<TextField*>(&control))
+    Edits(*field, std::move(text));
+  else if (auto* combo = dynamic_cast<Combo*>(&control))
+    Edits(*combo, std::move(text));
 }
 
 namespace {
@@ -82,9 +84,12 @@ void Person::Clicks(Control& control) const {
   }
   Handle([&] {
     session_.Activate(control.Owner());
-    if (auto* command = dynamic_cast<Command*>(&control)) command->Click();
-    else if (auto* option = dynamic_cast<Option*>(&control)) option->Click();
-    else if (auto* check = dynamic_cast<CheckBox*>(&control)) check->Click();
+    if (auto* command = dynamic_cast<Command*>(&control))
+      command->Click();
+    else if (auto* option = dynamic_cast<Option*>(&control))
+      option->Click();
+    else if (auto* check = dynamic_cast<CheckBox*>(&control))
+      check->Click();
     else if (auto* label = dynamic_cast<Label*>(&control); label != nullptr && label->onClick)
       label->onClick();
     else if (auto* picture = dynamic_cast<Picture*>(&control);
@@ -128,8 +133,20 @@ void Person::RightClicks(Grid& grid) const {
   });
 }
 
-void Person::Arrives(PageView& view, std::string address) const {
-  Handle([&] { view.Arrived(std::move(address)); });
+void Person::RightClicks(Picture& picture) const {
+  Handle([&] {
+    if (picture.onRightClick) picture.onRightClick();
+  });
+}
+
+void Person::RightClicks(Window& window) const {
+  Handle([&] { window.RightClicked(); });
+}
+
+void Person::Follows(PageView& view, std::string address) const {
+  Handle([&] {
+    if (view.onFollow) view.onFollow(address);
+  });
 }
 
 void Person::Activates(Window& window) const {
@@ -162,6 +179,10 @@ void Person::Picks(MenuEntry& entry) const {
 
 void Person::Waits(Timer& timer) const {
   Handle([&] { timer.Tick(); });
+}
+
+void Person::Arrives(PageView& view) const {
+  Handle([&] { view.Arrived(); });
 }
 
 std::string CleanPaste(std::string_view text) {

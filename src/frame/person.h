@@ -30,7 +30,9 @@ class Person {
   void Scrolls(ScrollBar& bar, int value) const;
   void Points(Grid& grid, int row, int column) const;
   void RightClicks(Grid& grid) const;
-  void Arrives(PageView& view, std::string address) const;
+  void RightClicks(Picture& picture) const;
+  void RightClicks(Window& window) const;
+  void Follows(PageView& view, std::string address) const;
 
   // To windows.
   void Activates(Window& window) const;
@@ -39,8 +41,9 @@ class Person {
   void DoubleClicks(Window& window) const;
   void Picks(MenuEntry& entry) const;
 
-  // The clock's doing rather than the person's.
+  // Not the person's doing, but the clock's and the page view's.
   void Waits(Timer& timer) const;
+  void Arrives(PageView& view) const;
 
  private:
   bool Handle(const Handler& event) const { return session_.Handle(event); }

@@ -13,5 +13,6 @@ void DeviceError() { throw RuntimeFailure(57, "Device I/O error"); }
 void InputPastEnd() { throw RuntimeFailure(62, "Input past end of file"); }
 void PathAccess() { throw RuntimeFailure(75, "Path/File access error"); }
 void ObjectNotSet() { throw RuntimeFailure(91, "Object variable not set"); }
+void PrinterError() { throw RuntimeFailure(482, "Printer error"); }
 
 }  // namespace korvane::failures

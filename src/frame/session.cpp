@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/files.h"
 #include "frame/names.h"
 
 namespace korvane {
@@ -135,8 +136,8 @@ void Session::ActivateFront() {
     Activate(*modal);
     return;
   }
-  const auto front = std::find_if(windows_.begin(), windows_.end(),
-                                  [](const auto& w) { return w->IsShown(); });
+  const auto front =
+      std::find_if(windows_.begin(), windows_.end(), [](const auto& w) { return w->IsShown(); });
   if (front != windows_.end()) Activate(**front);
 }
 
@@ -160,8 +161,24 @@ void Session::Message(std::string text, Icon icon, std::string title) {
   platform_.Show({std::move(text), icon, std::move(title)});
 }
 
+Answer Session::Ask(std::string text) {
+  Refresh();
+  return platform_.Ask({std::move(text)});
+}
+
 std::string Session::Setting(const std::string& key, const std::string& fallback) {
   return platform_.Setting(key).value_or(fallback);
+}
+
+std::optional<std::string> Session::FindTable(const std::string& name) const {
+  if (auto path = FindPath(DataPath + name)) return path;
+  return FindPath(programFolder_ + kSeparator + name);
+}
+
+std::string Session::ReadTable(const std::string& name) const {
+  const auto path = FindTable(name);
+  if (!path) failures::FileNotFound();
+  return ReadFile(*path);
 }
 
 void Session::RunPendingMessages() {
@@ -212,6 +229,17 @@ void Session::Refresh() {
     const std::vector<Control*> changes = window->TakeChanges();
     if (window->IsShown()) platform_.Refresh(*window, changes, windowChanged);
   }
+}
+
+void Session::PrintWindow(Window& window) {
+  CaptureWidth = ToInteger32(window.GetGeometry().width);
+  CaptureHeight = ToInteger32(window.GetGeometry().height);
+  CaptureX = 0;
+  CaptureY = 0;
+  CaptureWindow = &window;
+  RunPendingMessages();
+  Show("Page_Setup");
+  CaptureWindow = nullptr;
 }
 
 Session::Hold::~Hold() {

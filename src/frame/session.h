@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,9 +39,22 @@ class Session {
   std::string HelpFolder;
   std::string VersionText;
   int HelpContextId = 0;
-  bool AboutMode = false;  ///< the splash window was opened from Help > About
-  bool ShowsSplash = true;  ///< off where nobody watches: the driver starts behind the splash
-  short CaseNumber = 0;
+  bool AboutMode = false;    ///< the splash window was opened from Help > About
+  bool ShowsSplash = true;   ///< off where nobody watches: the driver starts behind the splash
+  short CaseNumber = 0;      ///< the beam case, 1 to 32
+  std::string ShapeSection;  ///< what the structural shape windows shall show
+  std::string ShapeTitle;
+  std::string ShapeMaterial;
+  std::string TubingMaterial;
+  std::string TubingShape;
+  std::string RemoteVersionText;  ///< what the version file on the product's web server held
+
+  // The capture record, from a window's Print command to the page dialog.
+  int CaptureWidth = 0;  ///< of the window with its frame, twips
+  int CaptureHeight = 0;
+  int CaptureX = 0;
+  int CaptureY = 0;
+  Window* CaptureWindow = nullptr;
 
   Platform& GetPlatform() const { return platform_; }
   /// The folder of the executable, as the system tells it.
@@ -70,7 +84,13 @@ class Session {
 
   // Services that read better with a default.
   void Message(std::string text, Icon icon = Icon::None, std::string title = kProgramName);
+  Answer Ask(std::string text);
   std::string Setting(const std::string& key, const std::string& fallback);
+  /// A table or data file of this name in `DataPath`, which is put ahead of it as it stands, or
+  /// else in the program folder.
+  std::optional<std::string> FindTable(const std::string& name) const;
+  /// The bytes of that file; fails with "File not found".
+  std::string ReadTable(const std::string& name) const;
   /// Lets pending messages run, with everything drawn as it stands.
   void RunPendingMessages();
   /// Unloads the help browser if it is open and shows it on `HelpTopic`.
@@ -88,6 +108,10 @@ class Session {
    private:
     Session& session_;
   };
+
+  /// What every Print command does: fills the capture record from the window and shows the page
+  /// dialog, which takes the picture.
+  void PrintWindow(Window& window);
 
   /// One event from outside: runs the handler, then the Tab keys that it simulated, shows the error
   /// box if it failed, and draws what changed. False if it failed.

@@ -61,13 +61,24 @@ void Window::GiveUpFocus(const Control& control) {
   if (focus_ == &control) MoveFocus(nullptr);
 }
 
-void Window::SetGeometry(const Geometry& geometry) {
-  if (geometry == geometry_) return;
-  const bool resized = geometry.width != geometry_.width || geometry.height != geometry_.height;
-  geometry_ = geometry;
+void Window::SetSize(Single width, Single height) {
   ownSize_ = true;
+  if (width == geometry_.width && height == geometry_.height) return;
+  geometry_.width = width;
+  geometry_.height = height;
   Changed();
-  if (resized && shown_) Resized();
+  if (shown_) Resized();
+}
+
+void Window::HoldLeastSize(Single width, Single height) {
+  SetSize(std::max(width, geometry_.width), std::max(height, geometry_.height));
+}
+
+void Window::MoveTo(Single left, Single top) {
+  ownPlace_ = true;
+  geometry_.left = left;
+  geometry_.top = top;
+  Changed();
 }
 
 void Window::Prepare() {

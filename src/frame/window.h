@@ -61,11 +61,12 @@ class Window {
   virtual MenuBar* Menu() { return nullptr; }
 
   // Handlers of the window.
-  virtual void Load() {}        ///< runs once, after construction and before the window is shown
-  virtual void Activated() {}   ///< it has come to the front
-  virtual void Resized() {}     ///< its size changed, or it is shown for the first time
+  virtual void Load() {}       ///< runs once, after construction and before the window is shown
+  virtual void Activated() {}  ///< it has come to the front
+  virtual void Resized() {}    ///< its size changed, or it is shown for the first time
   virtual void DoubleClicked() {}
-  virtual void Unloaded() {}    ///< runs once, before it goes
+  virtual void RightClicked() {}  ///< on the window's own ground
+  virtual void Unloaded() {}      ///< runs once, before it goes
   /// Sees every key before the controls do; true clears the key.
   virtual bool KeyPreview(Key) { return false; }
 
@@ -82,9 +83,14 @@ class Window {
   bool IsShown() const { return shown_; }
   State GetState() const { return state_; }
   const Geometry& GetGeometry() const { return geometry_; }
-  void SetGeometry(const Geometry& geometry);
   /// A size in twips that the window is given by its design instead of by its layout; 0: by layout.
   bool HasOwnSize() const { return ownSize_; }
+  void SetSize(Single width, Single height);
+  /// Widens and heightens the window to the least size, where it is below.
+  void HoldLeastSize(Single width, Single height);
+  /// Places the window; one that is never placed opens centred on the screen.
+  void MoveTo(Single left, Single top);
+  bool HasOwnPlace() const { return ownPlace_; }
 
   /// The layout as it was made when the window was loaded.
   const Layout& GetLayout() const { return layout_; }
@@ -98,7 +104,7 @@ class Window {
   friend class Person;
   friend class Session;
 
-  void Prepare();  // after construction: layout and tab order
+  void Prepare();                            // after construction: layout and tab order
   void GiveUpFocus(const Control& control);  // it can't be typed in any more
   void AddToTabOrder(const Layout& layout);
   std::vector<Control*> TakeChanges();
@@ -116,6 +122,7 @@ class Window {
   Color back_ = Color::ButtonFace();
   State state_ = State::Normal;
   bool ownSize_ = false;
+  bool ownPlace_ = false;
   bool shown_ = false;
   bool wasShown_ = false;
   bool changed_ = false;

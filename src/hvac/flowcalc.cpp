@@ -81,8 +81,8 @@ Drawing Orifice(Edge edge) {
 }  // namespace
 
 FlowCalc::FlowCalc(Session& session)
-    : CalculatorWindow(
-          session, {"FlowCalc", " Orifice Flow Calculations (Air)", "hvac_orifice_flow.html"}),
+    : CalculatorWindow(session,
+                       {"FlowCalc", " Orifice Flow Calculations (Air)", "hvac_orifice_flow.html"}),
       Picture1(*this, "Picture1", "Orifice with a sharp edge", Orifice(Edge::Sharp)),
       Picture2(*this, "Picture2", "Re-entrant orifice", Orifice(Edge::ReEntrant)),
       Picture3(*this, "Picture3", "Orifice with a square edge", Orifice(Edge::Square)),
@@ -128,11 +128,12 @@ FlowCalc::FlowCalc(Session& session)
 }
 
 Layout FlowCalc::Arrangement() {
-  return Column({Row({Column({Form({dia, area, pressure}), Rule(), Form({flow}), Stretch()}),
-                      Box(DischCoef, {Cells({Row({ideal}), Row({SharpEdge, Picture1}),
-                                             Row({ReEntrant, Picture2}), Row({SquareEdge, Picture3}),
-                                             Row({RoundEdge, Picture4}), Row({Stretch(), dc})})})}),
-                 Row({btn_calc, Stretch(), Command4, Command5, Command1, Command3, Command2})});
+  return Column(
+      {Row({Column({Form({dia, area, pressure}), Rule(), Form({flow}), Stretch()}),
+            Box(DischCoef, {Cells({Row({ideal}), Row({SharpEdge, Picture1}),
+                                   Row({ReEntrant, Picture2}), Row({SquareEdge, Picture3}),
+                                   Row({RoundEdge, Picture4}), Row({Stretch(), dc})})})}),
+       Row({btn_calc, Stretch(), Command4, Command5, Command1, Command3, Command2})});
 }
 
 void FlowCalc::ComputeAll() {

@@ -1,4 +1,5 @@
-// Orifice flow: air through an orifice by diameter, pressure drop and discharge coefficient, and back.
+// Orifice flow: air through an orifice by diameter, pressure drop and discharge coefficient, and
+// back.
 #pragma once
 
 #include "frame/calculator_window.h"

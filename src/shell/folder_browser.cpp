@@ -31,7 +31,8 @@ bool Folder_Browser::KeyPreview(Key key) { return key == Key::F1; }
 
 void Folder_Browser::Browse() {
   GetSession().Refresh();
-  if (const auto folder = GetSession().GetPlatform().ChooseFolder("Select the Korvane data folder:"))
+  if (const auto folder =
+          GetSession().GetPlatform().ChooseFolder("Select the Korvane data folder:"))
     Label1.SetCaption(*folder);
 }
 

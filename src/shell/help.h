@@ -11,12 +11,14 @@ class Help final : public Window {
 
   void Load() override;
   void Activated() override;
+  void Resized() override;
 
  private:
   Layout Arrangement() override;
 
   void ShowTopic();
   void GoToAddress();
+  void Follow(const std::string& address);
 
   TextField Text1{*this, "Text1", "Address"};
   Command cmdGo{*this, "cmdGo", "Go"};

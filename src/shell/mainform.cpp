@@ -7,6 +7,7 @@
 #include "frame/files.h"
 #include "frame/names.h"
 #include "shell/menu_catalogue.h"
+#include "shell/web.h"
 
 namespace korvane {
 namespace {
@@ -19,22 +20,7 @@ constexpr int kDefaultWidth = 8715;
 }  // namespace
 
 MAINFORM::MAINFORM(Session& session)
-    : Window(session, {.name = "MAINFORM", .title = "", .sizable = true}),
-      menu_(BuildMenu({
-          .session = session,
-          .own =
-              {
-                  {"SI_Metric", [this] { SelectUnits("SI"); }},
-                  {"Imperial", [this] { SelectUnits("US"); }},
-                  {"Exit", [this] { GetSession().Unload(*this); }},
-                  {"Index",
-                   [this] {
-                     GetSession().HelpTopic = kHelpPage;
-                     GetSession().ShowHelp();
-                   }},
-                  {"About", [this] { ShowAbout(); }},
-              },
-      })) {
+    : Window(session, {.name = "MAINFORM", .title = "", .sizable = true}) {
   Timer1.onTick = [this] { Timer1.SetEnabled(false); };
 }
 
@@ -52,6 +38,7 @@ void MAINFORM::Load() {
   session.AppPath = session.ProgramFolder();
   if (session.AppPath.ends_with(kSeparator)) session.AppPath.pop_back();
   FindDataPath();
+  MakeMenu();
   if (session.ShowsSplash) {
     session.ShowModal("Splash");
     session.Unload("Splash");
@@ -60,16 +47,38 @@ void MAINFORM::Load() {
   session.HelpContextId = 1000;
 }
 
+// Made once the folders are known, since tables that are not there are not offered.
+void MAINFORM::MakeMenu() {
+  menu_ = BuildMenu({
+      .session = GetSession(),
+      .own =
+          {
+              {"SI_Metric", [this] { SelectUnits("SI"); }},
+              {"Imperial", [this] { SelectUnits("US"); }},
+              {"Exit", [this] { GetSession().Unload(*this); }},
+              {"calc", [this] { GetSession().GetPlatform().Launch("Calc.exe"); }},
+              {"Index",
+               [this] {
+                 GetSession().HelpTopic = kHelpPage;
+                 GetSession().ShowHelp();
+               }},
+              {"Korvane_Web_Site", [this] { GetSession().GetPlatform().Launch(WebAddress("/")); }},
+              {"mnu_check_for_updates", [this] { CheckForUpdates(); }},
+              {"About", [this] { ShowAbout(); }},
+          },
+  });
+}
+
 void MAINFORM::ReadGeometry() {
   const auto read = [this](const char* key, const char* fallback) {
     return Single(Strict(GetSession().Setting(key, fallback)));
   };
-  Geometry geometry;
-  geometry.top = read("Top", "0");
-  geometry.left = read("Left", "0");
-  geometry.height = read("Height", "870");
-  geometry.width = read("Width", "8715");
-  SetGeometry(geometry);
+  const Single top = read("Top", "0");
+  const Single left = read("Left", "0");
+  const Single height = read("Height", "870");
+  const Single width = read("Width", "8715");
+  MoveTo(left, top);
+  SetSize(width, height);
 }
 
 std::string DataPathOfIni(std::string_view bytes) {
@@ -139,14 +148,13 @@ void MAINFORM::Activated() {
 
 void MAINFORM::Resized() {
   if (GetState() != State::Normal) return;
-  Geometry geometry = GetGeometry();
-  if (geometry.width < kDefaultWidth) geometry.width = kDefaultWidth;
-  if (geometry.height < kDefaultHeight) geometry.height = kDefaultHeight;
-  SetGeometry(geometry);
+  HoldLeastSize(kDefaultWidth, kDefaultHeight);
 }
 
 void MAINFORM::DoubleClicked() {
-  if (GetState() == State::Normal) SetGeometry({0, 0, kDefaultWidth, kDefaultHeight});
+  if (GetState() != State::Normal) return;
+  MoveTo(0, 0);
+  SetSize(kDefaultWidth, kDefaultHeight);
 }
 
 bool MAINFORM::KeyPreview(Key key) {
@@ -163,6 +171,17 @@ void MAINFORM::ShowAbout() {
   session.RunPendingMessages();
   session.ShowModal("Splash");
   session.Show(*this);
+}
+
+void MAINFORM::CheckForUpdates() {
+  Session& session = GetSession();
+  const std::string answer = session.GetPlatform().Get(WebAddress("/korvane_version.txt"));
+  session.RemoteVersionText.clear();
+  for (const char c : answer) {
+    if (c == '\n') session.RemoteVersionText += '\r';
+    session.RemoteVersionText += c;
+  }
+  session.ShowModal("Check_for_Updates");
 }
 
 void MAINFORM::Unloaded() {

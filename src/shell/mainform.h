@@ -20,12 +20,14 @@ class MAINFORM final : public Window {
  private:
   Layout Arrangement() override;
 
+  void MakeMenu();
   void ReadGeometry();
   void FindDataPath();
   void ReadUnits();
   void SelectUnits(const std::string& name);
   void ApplyUnits();
   void ShowAbout();
+  void CheckForUpdates();
 
   MenuBar menu_;
   Timer Timer1{*this, "Timer1", 3000, Timer::Starts::Enabled};

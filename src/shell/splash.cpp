@@ -7,11 +7,12 @@
 namespace korvane {
 namespace {
 
-constexpr Geometry kAboutSize{0, 0, 4395, 3855};   // twips
-constexpr Geometry kStartSize{0, 0, 4395, 2460};   // only the name and the version
+constexpr int kWidth = 4395;  // twips
+constexpr int kAboutHeight = 3855;
+constexpr int kStartHeight = 2460;  // only the name and the version
 
 constexpr std::array kSizes = {8, 10, 12, 14, 16, 18, 20, 24, 28};  // points
-constexpr int kFirstLast = 12;   // the step at which the second piece of the name appears
+constexpr int kFirstLast = 12;  // the step at which the second piece of the name appears
 constexpr int kLastStep = 21;
 constexpr int kDelayRounds = 10000;
 
@@ -58,7 +59,7 @@ Layout Splash::Arrangement() {
 
 void Splash::Load() {
   const bool about = GetSession().AboutMode;
-  SetGeometry(about ? kAboutSize : kStartSize);
+  SetSize(kWidth, about ? kAboutHeight : kStartHeight);
   // At start nothing is asked of the person; what the lower part holds is out of the window.
   for (Control* lower : std::initializer_list<Control*>{
            &btn_Read_Disclaimer, &Panel3D4, &Label3, &btn_agree, &btn_disagree, &Picture1, &cmd_OK})
@@ -74,8 +75,8 @@ void Splash::Activated() {
   Timer1.SetEnabled(true);
 }
 
-// The first two ticks only pass the time; the third makes the first piece appear, and each one after
-// that is a step: the first piece grows, then the second, then the window rests for a second.
+// The first two ticks only pass the time; the third makes the first piece appear, and each one
+// after that is a step: the first piece grows, then the second, then the window rests for a second.
 void Splash::Animate() {
   ++ticks_;
   for (int round = 0; round < kDelayRounds; ++round) GetSession().RunPendingMessages();

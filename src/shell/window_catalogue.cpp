@@ -1,6 +1,10 @@
 #include "shell/window_catalogue.h"
 
+#include "frame/conversion_factors.h"
+#include "frame/display.h"
+#include "frame/page_setup.h"
 #include "hvac/flowcalc.h"
+#include "shell/check_for_updates.h"
 #include "shell/folder_browser.h"
 #include "shell/help.h"
 #include "shell/mainform.h"
@@ -20,6 +24,12 @@ constexpr WindowUnit kUnits[] = {
     {"Splash", Make<Splash>},
     {"Folder_Browser", Make<Folder_Browser>, /*modal=*/true},
     {"Help", Make<Help>},
+    {"Check_for_Updates", Make<Check_for_Updates>, /*modal=*/true},
+    // Frame
+    {"DISPLAY", Make<DISPLAY>},
+    {"DISPLAY2", Make<DISPLAY2>},
+    {"Conversion_Factors", Make<Conversion_Factors>},
+    {"Page_Setup", Make<Page_Setup>},
     // HVAC
     {"FlowCalc", Make<FlowCalc>},
 };

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -12,7 +13,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTextBrowser>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -20,6 +20,7 @@
 
 #include "frame/session.h"
 #include "toolkit/grid_view.h"
+#include "toolkit/help_browser.h"
 #include "toolkit/number_edit.h"
 #include "toolkit/picture_widget.h"
 #include "toolkit/text.h"
@@ -65,13 +66,15 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
   TextView(TextField& field, const Person& person, QWidget& parent)
       : ViewOf(field, new NumberEdit(&parent), person) {
     const bool number = !field.IsFreeText();
-    shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter
+                               : Qt::AlignLeft | Qt::AlignVCenter);
     shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * (number ? 18 : 40));
     // What assistive programs set counts as typed too.
     connect(&shown_, &QLineEdit::textChanged, this, [this](const QString& text) {
       if (text != ToQt(model_.Text())) person_.Types(model_, FromQt(text));
     });
-    // A right click for the Copy command leaves the focus where it is; see eventFilter for the left.
+    // A right click for the Copy command leaves the focus where it is; see eventFilter for the
+    // left.
     if (field.IsResult()) shown_.setFocusPolicy(Qt::NoFocus);
   }
 
@@ -85,7 +88,10 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
 
   void RefreshContent() override {
     const QString text = ToQt(model_.Text());
-    if (shown_.text() != text) shown_.setText(text);
+    if (shown_.text() != text) {
+      shown_.setText(text);
+      if (model_.IsLocked()) shown_.home(false);  // a long text is read from its beginning
+    }
     shown_.setReadOnly(model_.IsLocked() || model_.IsResult());
     shown_.setAccessibleName(Plain(model_.Caption()));
     if (model_.TakeSelectAll()) shown_.selectAll();
@@ -128,6 +134,7 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
  public:
   ListView(ListBox& list, const Person& person, QWidget& parent)
       : ViewOf(list, new QListWidget(&parent), person) {
+    if (list.HasFixedPitch()) shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(&shown_, &QListWidget::currentRowChanged, this, [this](int row) {
       if (row >= 0 && row != model_.Index()) person_.Selects(model_, row);
     });
@@ -227,8 +234,8 @@ class OptionView final : public MarkView<Option, QRadioButton> {
   void Walk(int step) {
     const std::vector<Option*>& options = model_.Group().Options();
     const auto count = static_cast<int>(options.size());
-    auto at = static_cast<int>(std::find(options.begin(), options.end(), &model_) -
-                               options.begin());
+    auto at =
+        static_cast<int>(std::find(options.begin(), options.end(), &model_) - options.begin());
     for (int tried = 1; tried < count; ++tried) {
       at = (at + step + count) % count;
       Option& next = *options[static_cast<std::size_t>(at)];
@@ -259,8 +266,8 @@ class SpinView final : public ViewOf<SpinButton, QWidget> {
       button->setAutoRepeat(true);
       button->setFocusPolicy(Qt::NoFocus);
       button->setFixedHeight(shown_.fontMetrics().height() * 3 / 4);
-      button->setAccessibleName((up ? tr("Increase %1") : tr("Decrease %1"))
-                                    .arg(Plain(spin.Field().Caption())));
+      button->setAccessibleName(
+          (up ? tr("Increase %1") : tr("Decrease %1")).arg(Plain(spin.Field().Caption())));
       connect(button, &QToolButton::clicked, this, [this, up] { person_.Spins(model_, up); });
       column->addWidget(button);
     }
@@ -312,7 +319,8 @@ class LabelView final : public ViewOf<Label, QLabel> {
     constexpr int longLine = 70;  // characters, beyond which a text is broken into lines
     shown_.setText(shown_.buddy() != nullptr ? ToQt(model_.Caption()) : Plain(model_.Caption()));
     shown_.setWordWrap(shown_.text().size() > longLine);
-    if (shown_.wordWrap()) shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * longLine);
+    if (shown_.wordWrap())
+      shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * longLine);
     QFont font = shown_.font();
     if (model_.FontSize() > 0) font.setPointSize(model_.FontSize());
     font.setBold(model_.IsHeading());
@@ -325,12 +333,17 @@ class PictureView final : public ViewOf<Picture, PictureWidget> {
   PictureView(Picture& picture, const Person& person, QWidget& parent)
       : ViewOf(picture, new PictureWidget(&parent), person) {
     if (picture.onClick) shown_.setCursor(Qt::PointingHandCursor);
+    if (picture.FillsSpace()) shown_.FillSpace();
   }
 
  private:
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonRelease && model_.onClick) {
       person_.Clicks(model_);
+      return true;
+    }
+    if (event->type() == QEvent::ContextMenu && model_.onRightClick) {
+      person_.RightClicks(model_);
       return true;
     }
     return ControlView::eventFilter(object, event);
@@ -352,33 +365,26 @@ class FrameView final : public ViewOf<Frame, QGroupBox> {
   void RefreshContent() override { shown_.setTitle(ToQt(model_.Caption())); }
 };
 
-class PageBrowser final : public ViewOf<PageView, QTextBrowser> {
+class PageBrowser final : public ViewOf<PageView, HelpBrowser> {
  public:
   PageBrowser(PageView& page, const Person& person, QWidget& parent)
-      : ViewOf(page, new QTextBrowser(&parent), person) {
-    shown_.setOpenExternalLinks(true);
+      : ViewOf(page, new HelpBrowser(&parent), person) {
     shown_.setAccessibleName(tr("Help page"));
-    connect(&shown_, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
-      person_.Arrives(model_, FromQt(source.isLocalFile() ? source.toLocalFile()
-                                                         : source.toString()));
+    connect(&shown_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+      person_.Follows(model_, FromQt(AddressOf(shown_.source().resolved(link))));
     });
   }
 
  private:
+  static QString AddressOf(const QUrl& url) {
+    return url.isLocalFile() ? url.toLocalFile() : url.toString();
+  }
+
   void RefreshContent() override {
-    switch (model_.TakeStep()) {
-      case PageView::Step::None: break;
-      case PageView::Step::Back: shown_.backward(); break;
-      case PageView::Step::Forward: shown_.forward(); break;
-      case PageView::Step::Reload: {
-        const QUrl url = QUrl::fromUserInput(ToQt(model_.Address()), {}, QUrl::AssumeLocalFile);
-        if (shown_.source() == url)
-          shown_.reload();
-        else
-          shown_.setSource(url);
-        break;
-      }
-    }
+    shown_.SetFolder(ToQt(model_.Folder()));
+    if (!model_.TakeNavigation()) return;
+    shown_.Show(ToQt(model_.Address()));
+    person_.Arrives(model_);
   }
 };
 
@@ -393,6 +399,7 @@ ControlView::ControlView(Control& control, QWidget& widget, const Person& person
 }
 
 void ControlView::Detach() {
+  detached_ = true;
   widget_.removeEventFilter(this);
   widget_.disconnect(this);
 }
@@ -405,6 +412,7 @@ void ControlView::Refresh() {
 }
 
 bool ControlView::eventFilter(QObject* object, QEvent* event) {
+  if (detached_) return false;
   auto* focusable = dynamic_cast<FocusControl*>(&control_);
   switch (event->type()) {
     case QEvent::FocusIn:
@@ -445,7 +453,8 @@ void ControlView::RefreshColors() {
     palette.setColor(ground, QPalette().color(QPalette::Base));
   }
   if (control_.Fore().role == Color::Role::Fixed)
-    palette.setColor(letters, Readable(QColor::fromRgb(control_.Fore().rgb), palette.color(ground)));
+    palette.setColor(letters,
+                     Readable(QColor::fromRgb(control_.Fore().rgb), palette.color(ground)));
   widget_.setPalette(palette);
   widget_.setAutoFillBackground(control_.Back() != usual);
 }
@@ -475,8 +484,7 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& per
       return std::make_unique<SpinView>(static_cast<SpinButton&>(control), person, parent);
     case Control::Kind::Scroll:
       return std::make_unique<ScrollView>(static_cast<ScrollBar&>(control), person, parent);
-    case Control::Kind::Grid:
-      return MakeGridView(static_cast<Grid&>(control), person, parent);
+    case Control::Kind::Grid: return MakeGridView(static_cast<Grid&>(control), person, parent);
     case Control::Kind::Page:
       return std::make_unique<PageBrowser>(static_cast<PageView&>(control), person, parent);
     case Control::Kind::Timer: break;

@@ -33,6 +33,7 @@ class ControlView : public QObject {
 
   Control& control_;
   QWidget& widget_;
+  bool detached_ = false;
 };
 
 /// The view of a control in the given parent; null for a timer, which has nothing to show.

@@ -1,10 +1,15 @@
 #include "toolkit/grid_view.h"
 
 #include <QAbstractTableModel>
+#include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPalette>
+#include <QScrollBar>
 #include <QTableView>
+#include <array>
 
 #include "toolkit/text.h"
 #include "toolkit/twips.h"
@@ -12,64 +17,159 @@
 namespace korvane {
 namespace {
 
-/// The grid's alignment code: column of the three by three places, 9 is general.
+/// The grid's alignment code: left, centre, right by top, centre, bottom; 9 is general.
 Qt::Alignment AlignmentOf(int code) {
-  constexpr Qt::Alignment across[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight, Qt::AlignLeft};
+  constexpr Qt::Alignment across[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
   constexpr Qt::Alignment down[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
-  if (code < 0 || code > 9) code = 9;
-  return across[code / 3] | (code == 9 ? Qt::AlignVCenter : down[code % 3]);
+  if (code < 0 || code > 8) return Qt::AlignLeft | Qt::AlignVCenter;
+  return across[code / 3] | down[code % 3];
 }
 
-class TableModel final : public QAbstractTableModel {
+/// A rectangle of the grid's table: rows and columns from a first one up to a last one exclusive.
+class PaneModel final : public QAbstractTableModel {
  public:
-  explicit TableModel(const Grid& grid) : grid_(grid) {}
+  PaneModel(const Grid& grid, bool fixedRows, bool fixedColumns)
+      : grid_(grid), fixedRows_(fixedRows), fixedColumns_(fixedColumns) {}
 
   void Reload() {
     beginResetModel();
     endResetModel();
   }
 
-  int rowCount(const QModelIndex& parent) const override {
-    return parent.isValid() ? 0 : grid_.Content().rows;
+  int FirstRow() const { return fixedRows_ ? 0 : grid_.Content().fixedRows; }
+  int FirstColumn() const { return fixedColumns_ ? 0 : grid_.Content().fixedColumns; }
+
+  int rowCount(const QModelIndex& parent = {}) const override {
+    const Table& table = grid_.Content();
+    return parent.isValid() ? 0 : fixedRows_ ? table.fixedRows : table.rows - table.fixedRows;
   }
-  int columnCount(const QModelIndex& parent) const override {
-    return parent.isValid() ? 0 : grid_.Content().columns;
+
+  int columnCount(const QModelIndex& parent = {}) const override {
+    const Table& table = grid_.Content();
+    return parent.isValid() ? 0
+           : fixedColumns_  ? table.fixedColumns
+                            : table.columns - table.fixedColumns;
   }
 
   QVariant data(const QModelIndex& index, int role) const override {
     const Table& table = grid_.Content();
+    const int column = FirstColumn() + index.column();
     switch (role) {
-      case Qt::DisplayRole: return ToQt(table.At(index.row(), index.column()));
+      case Qt::DisplayRole: return ToQt(table.At(FirstRow() + index.row(), column));
       case Qt::TextAlignmentRole:
-        return QVariant(AlignmentOf(table.alignments[static_cast<std::size_t>(index.column())]));
+        return QVariant(AlignmentOf(table.alignments[static_cast<std::size_t>(column)]));
       case Qt::BackgroundRole:
-        if (index.row() < table.fixedRows || index.column() < table.fixedColumns)
-          return QPalette().brush(QPalette::Button);
-        return {};
+        return fixedRows_ || fixedColumns_
+                   ? QVariant(QApplication::palette().brush(QPalette::Button))
+                   : QVariant();
       default: return {};
     }
   }
 
  private:
   const Grid& grid_;
+  bool fixedRows_;
+  bool fixedColumns_;
+};
+
+/// One of the four parts of a grid: the fixed ones stand still in one direction or in both.
+struct Pane {
+  Pane(const Grid& grid, QWidget& parent, bool fixedRows, bool fixedColumns)
+      : view(&parent), model(grid, fixedRows, fixedColumns), fixed(fixedRows || fixedColumns) {
+    view.setModel(&model);
+    view.horizontalHeader()->hide();
+    view.verticalHeader()->hide();
+    view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view.verticalHeader()->setDefaultSectionSize(GridRowPixels());
+    view.setFrameShape(QFrame::NoFrame);
+    view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view.setWordWrap(false);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    if (!fixed) return;
+    view.setFocusPolicy(Qt::NoFocus);
+    view.setSelectionMode(QAbstractItemView::NoSelection);
+  }
+
+  void Reload(const Table& table) {
+    model.Reload();
+    for (int column = 0; column < model.columnCount(); ++column)
+      view.setColumnWidth(
+          column,
+          std::max(0,
+                   PixelsOf(view,
+                            table.widths[static_cast<std::size_t>(model.FirstColumn() + column)])));
+  }
+
+  int Width() const { return view.horizontalHeader()->length(); }
+  int Height() const { return view.verticalHeader()->length(); }
+
+  QTableView view;
+  PaneModel model;
+  bool fixed;
 };
 
 class GridView final : public ControlView {
  public:
-  GridView(Grid& grid, const Person& person, QTableView& table)
-      : ControlView(grid, table, person), grid_(grid), table_(table), model_(grid) {
-    table.setModel(&model_);
-    table.horizontalHeader()->hide();
-    table.verticalHeader()->hide();
-    table.setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(table.selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& index) {
-              if (index.isValid() && (index.row() != grid_.Row() || index.column() != grid_.Column()))
-                person_.Points(grid_, index.row(), index.column());
-            });
+  GridView(Grid& grid, const Person& person, QWidget& box)
+      : ControlView(grid, box, person),
+        grid_(grid),
+        corner_(grid, box, true, true),
+        top_(grid, box, true, false),
+        left_(grid, box, false, true),
+        body_(grid, box, false, false) {
+    auto* layout = new QGridLayout(&box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(&corner_.view, 0, 0);
+    layout->addWidget(&top_.view, 0, 1);
+    layout->addWidget(&left_.view, 1, 0);
+    layout->addWidget(&body_.view, 1, 1);
+    layout->addWidget(ScrollBarOf(*body_.view.horizontalScrollBar(), box), 2, 0, 1, 2);
+    layout->addWidget(ScrollBarOf(*body_.view.verticalScrollBar(), box), 0, 2, 2, 1);
+    Link(body_.view.horizontalScrollBar(), top_.view.horizontalScrollBar());
+    Link(body_.view.verticalScrollBar(), left_.view.verticalScrollBar());
+
+    box.setFocusProxy(&body_.view);
+    body_.view.setSelectionMode(QAbstractItemView::SingleSelection);
+    for (Pane* pane : {&corner_, &top_, &left_, &body_}) {
+      pane->view.installEventFilter(this);
+      pane->view.viewport()->installEventFilter(this);
+    }
+    connect(body_.view.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& index) { Point(index); });
   }
 
  private:
+  /// A bar that stands for the body's own, but outside of it, so that all panes end in one line.
+  QScrollBar* ScrollBarOf(QScrollBar& inner, QWidget& box) {
+    auto* bar = new QScrollBar(inner.orientation(), &box);
+    const auto follow = [bar, &inner] {
+      bar->setRange(inner.minimum(), inner.maximum());
+      bar->setPageStep(inner.pageStep());
+      bar->setSingleStep(inner.singleStep());
+      bar->setVisible(inner.maximum() > inner.minimum());
+    };
+    connect(&inner, &QScrollBar::rangeChanged, bar, follow);
+    follow();
+    Link(&inner, bar);
+    return bar;
+  }
+
+  // Both scroll together, whichever the person moves.
+  void Link(QScrollBar* one, QScrollBar* other) {
+    connect(one, &QScrollBar::valueChanged, other, &QScrollBar::setValue);
+    connect(other, &QScrollBar::valueChanged, one, &QScrollBar::setValue);
+  }
+
+  void Point(const QModelIndex& index) {
+    if (!index.isValid()) return;
+    const int row = body_.model.FirstRow() + index.row();
+    const int column = body_.model.FirstColumn() + index.column();
+    if (row != grid_.Row() || column != grid_.Column()) person_.Points(grid_, row, column);
+  }
+
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::KeyPress) {
       const auto* key = static_cast<QKeyEvent*>(event);
@@ -86,29 +186,36 @@ class GridView final : public ControlView {
   }
 
   void RefreshContent() override {
-    if (&grid_.Content().texts != shown_ || grid_.Content().rows != rows_) {
-      shown_ = &grid_.Content().texts;
-      rows_ = grid_.Content().rows;
-      model_.Reload();
-      for (int column = 0; column < grid_.Content().columns; ++column)
-        table_.setColumnWidth(
-            column, PixelsOf(table_, grid_.Content().widths[static_cast<std::size_t>(column)]));
+    const Table& table = grid_.Content();
+    if (grid_.Version() != shown_) {
+      shown_ = grid_.Version();
+      for (Pane* pane : {&corner_, &top_, &left_, &body_}) pane->Reload(table);
+      for (Pane* pane : {&corner_, &left_}) {
+        pane->view.setFixedWidth(pane->Width());
+        pane->view.setVisible(table.fixedColumns > 0);
+      }
+      for (Pane* pane : {&corner_, &top_}) {
+        pane->view.setFixedHeight(pane->Height());
+        if (table.fixedRows == 0) pane->view.hide();
+      }
     }
-    table_.setAccessibleName(Plain(grid_.Caption()));
-    if (grid_.Content().rows > 0) table_.setCurrentIndex(model_.index(grid_.Row(), grid_.Column()));
+    body_.view.setAccessibleName(Plain(grid_.Caption()));
+    const QModelIndex current = body_.model.index(grid_.Row() - body_.model.FirstRow(),
+                                                  grid_.Column() - body_.model.FirstColumn());
+    if (current != body_.view.currentIndex()) body_.view.setCurrentIndex(current);
   }
 
   Grid& grid_;
-  QTableView& table_;
-  TableModel model_;
-  const std::vector<std::string>* shown_ = nullptr;
-  int rows_ = -1;
+  Pane corner_, top_, left_, body_;
+  int shown_ = 0;
 };
 
 }  // namespace
 
+int GridRowPixels() { return QFontMetrics(QApplication::font()).height() + 4; }
+
 std::unique_ptr<ControlView> MakeGridView(Grid& grid, const Person& person, QWidget& parent) {
-  return std::make_unique<GridView>(grid, person, *new QTableView(&parent));
+  return std::make_unique<GridView>(grid, person, *new QWidget(&parent));
 }
 
 }  // namespace korvane

@@ -1,4 +1,5 @@
-// A grid of texts by model and view: no object per cell.
+// A grid of texts by model and view, with no object per cell. Fixed rows and columns stay in place
+// while the rest scrolls.
 #pragma once
 
 #include <memory>
@@ -6,6 +7,8 @@
 #include "toolkit/control_view.h"
 
 namespace korvane {
+
+int GridRowPixels();
 
 std::unique_ptr<ControlView> MakeGridView(Grid& grid, const Person& person, QWidget& parent);
 

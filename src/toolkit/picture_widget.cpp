@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "toolkit/capture.h"
 #include "toolkit/text.h"
 
 namespace korvane {
@@ -13,6 +14,7 @@ QColor ColorOf(Ink ink, const QPalette& palette) {
   switch (ink) {
     case Ink::Line: return palette.color(QPalette::WindowText);
     case Ink::Body: return palette.color(dark ? QPalette::Light : QPalette::Mid);
+    case Ink::Paper: return Qt::white;
     case Ink::Accent: return dark ? QColor(0x6C, 0xB4, 0xEE) : QColor(0x1F, 0x77, 0xB4);
   }
   return {};
@@ -43,17 +45,29 @@ void Paint(QPainter& painter, const Letters& letters, const QPalette& palette) {
   painter.restore();
 }
 
+void Paint(QPainter& painter, const Snapshot& snapshot, const QPalette&) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(snapshot.at.x, snapshot.at.y, snapshot.width, snapshot.height),
+                    capture::Last());
+}
+
 }  // namespace
 
 void PictureWidget::Draw(const Drawing& drawing) {
   drawing_ = drawing;
-  setMinimumSize(sizeHint());
+  if (!fillsSpace_) setMinimumSize(sizeHint());
   updateGeometry();
   update();
 }
 
+void PictureWidget::FillSpace() {
+  fillsSpace_ = true;
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
 /// Drawing units are points at the usual text size, so that pictures grow with the font.
 QSize PictureWidget::sizeHint() const {
+  if (fillsSpace_) return {fontMetrics().height() * 8, fontMetrics().height() * 8};
   const double unit = fontMetrics().height() / 18.0;
   return (QSizeF(drawing_.width, drawing_.height) * unit).toSize();
 }
@@ -63,7 +77,8 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double scale = std::min(width() / drawing_.width, height() / drawing_.height);
-  painter.translate((width() - drawing_.width * scale) / 2, (height() - drawing_.height * scale) / 2);
+  painter.translate((width() - drawing_.width * scale) / 2,
+                    (height() - drawing_.height * scale) / 2);
   painter.scale(scale, scale);
   for (const auto& shape : drawing_.shapes)
     std::visit([&](const auto& drawn) { Paint(painter, drawn, palette()); }, shape);

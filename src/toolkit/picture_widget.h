@@ -12,6 +12,8 @@ class PictureWidget final : public QWidget {
   using QWidget::QWidget;
 
   void Draw(const Drawing& drawing);
+  /// Takes the space that there is, instead of the drawing's own size.
+  void FillSpace();
   QSize sizeHint() const override;
 
  protected:
@@ -19,6 +21,7 @@ class PictureWidget final : public QWidget {
 
  private:
   Drawing drawing_;
+  bool fillsSpace_ = false;
 };
 
 }  // namespace korvane

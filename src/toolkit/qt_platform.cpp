@@ -6,13 +6,21 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QProcess>
+#include <QScreen>
 #include <QUrl>
 #include <cstdlib>
 
+#include "toolkit/capture.h"
+#include "toolkit/grid_view.h"
 #include "toolkit/text.h"
+#include "toolkit/twips.h"
+#include "toolkit/web_client.h"
 
 namespace korvane {
 namespace {
+
+constexpr const char* kCalculator = "Calc.exe";  // what the menu calls the system's calculator
 
 QMessageBox::Icon IconOf(Icon icon) {
   switch (icon) {
@@ -60,6 +68,7 @@ void QtPlatform::WindowShown(Window& window, bool) {
   if (view == nullptr) view = new WindowView(window, *session_);
   if (session_->Modal() == &window) view->setWindowModality(Qt::ApplicationModal);
   view->show();
+  view->ReportGeometry();
 }
 
 void QtPlatform::WindowHidden(Window& window) {
@@ -143,7 +152,44 @@ std::optional<std::string> QtPlatform::ChooseFolder(const std::string& title) {
   return FromQt(folder);
 }
 
+// ---- Printing ----
+
+void QtPlatform::Capture(Window& window) {
+  WindowView* view = View(window);
+  if (view == nullptr) return;
+  capture::Take(*view);
+  QGuiApplication::clipboard()->setImage(capture::Last());
+}
+
+std::vector<std::string> QtPlatform::PrinterNames() { return printing_.Names(); }
+
+std::optional<Printer> QtPlatform::CurrentPrinter() { return printing_.Current(); }
+
+void QtPlatform::ChoosePrinter(const std::string& name) { printing_.Choose(name); }
+
+void QtPlatform::SetOrientation(Orientation orientation) { printing_.SetOrientation(orientation); }
+
+void QtPlatform::SetUpPrinter(const std::string& title) { printing_.SetUp(title, Front()); }
+
+void QtPlatform::Print(const PrintedPage& page) { printing_.Print(page, Front()); }
+
 // ---- Services ----
+
+Metrics QtPlatform::GetMetrics() {
+  const QWidget* front = Front();
+  const QWidget probe;
+  const QWidget& window = front != nullptr ? *front : probe;
+  const QSize screen = window.screen()->availableGeometry().size();
+  const QSize frame = window.frameGeometry().size() - window.size();
+  const auto twips = [&window](int pixels) { return TwipsOf(window, pixels); };
+  return {.screenWidth = twips(screen.width()),
+          .screenHeight = twips(screen.height()),
+          .frameWidth = twips(frame.width()) / 2,
+          .captionHeight = twips(frame.height()),
+          .gridRowHeight = twips(GridRowPixels())};
+}
+
+std::string QtPlatform::Get(const std::string& address) { return FromQt(GetText(ToQt(address))); }
 
 void QtPlatform::Beep() { QApplication::beep(); }
 
@@ -152,10 +198,18 @@ void QtPlatform::SetClipboard(const std::string& text) {
 }
 
 void QtPlatform::Launch(const std::string& what) {
+  if (what == kCalculator) {
+    for (const char* program :
+         {"gnome-calculator", "kcalc", "qalculate-gtk", "mate-calc", "galculator", "xcalc"})
+      if (QProcess::startDetached(program, {})) return;
+    return;
+  }
   QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(what)));
 }
 
-std::optional<std::string> QtPlatform::Setting(const std::string& key) { return settings_.Get(key); }
+std::optional<std::string> QtPlatform::Setting(const std::string& key) {
+  return settings_.Get(key);
+}
 
 void QtPlatform::SaveSetting(const std::string& key, const std::string& value) {
   settings_.Set(key, value);
@@ -165,9 +219,9 @@ void QtPlatform::SaveSetting(const std::string& key, const std::string& value) {
 
 void QtPlatform::Fail(const RuntimeFailure& failure) {
   while (QGuiApplication::overrideCursor() != nullptr) SetHourglass(false);
-  QMessageBox::critical(Front(), kProgramName,
-                        QString("Run-time error '%1':\n\n%2").arg(failure.Number()).arg(
-                            ToQt(failure.Text())));
+  QMessageBox::critical(
+      Front(), kProgramName,
+      QString("Run-time error '%1':\n\n%2").arg(failure.Number()).arg(ToQt(failure.Text())));
   EndProgram(EXIT_FAILURE);
 }
 

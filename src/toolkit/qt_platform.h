@@ -7,6 +7,7 @@
 
 #include "frame/platform.h"
 #include "frame/session.h"
+#include "toolkit/printing.h"
 #include "toolkit/settings_store.h"
 #include "toolkit/window_view.h"
 
@@ -34,6 +35,15 @@ class QtPlatform final : public Platform {
   Answer Ask(const Question& question) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
   std::optional<std::string> ChooseFolder(const std::string& title) override;
+  void Capture(Window& window) override;
+  std::vector<std::string> PrinterNames() override;
+  std::optional<Printer> CurrentPrinter() override;
+  void ChoosePrinter(const std::string& name) override;
+  void SetOrientation(Orientation orientation) override;
+  void SetUpPrinter(const std::string& title) override;
+  void Print(const PrintedPage& page) override;
+  Metrics GetMetrics() override;
+  std::string Get(const std::string& address) override;
   void Beep() override;
   void SetClipboard(const std::string& text) override;
   void Launch(const std::string& what) override;
@@ -49,6 +59,7 @@ class QtPlatform final : public Platform {
 
   Session* session_ = nullptr;
   SettingsStore settings_;
+  Printing printing_;
   std::map<const Window*, WindowView*> views_;
   std::map<const Window*, QEventLoop*> modalLoops_;
 };

@@ -1,10 +1,9 @@
 // The per-user settings store in its native place.
 #pragma once
 
+#include <QSettings>
 #include <optional>
 #include <string>
-
-#include <QSettings>
 
 namespace korvane {
 

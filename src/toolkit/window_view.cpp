@@ -15,12 +15,23 @@
 #include "toolkit/twips.h"
 
 namespace korvane {
+namespace {
+
+/// A table that ends a window's layout goes up to its edges.
+bool FillsWithGrid(const Layout& layout) {
+  return !layout.parts.empty() && layout.parts.back().control != nullptr &&
+         layout.parts.back().control->GetKind() == Control::Kind::Grid;
+}
+
+}  // namespace
 
 WindowView::WindowView(Window& window, Session& session)
     : window_(&window), session_(session), person_(session) {
   setObjectName(ToQt(window.Name()));
-  setLayout(Arrange(window.GetLayout(), *this,
-                    [this](Control& control, QWidget& parent) { return WidgetOf(control, parent); }));
+  setLayout(Arrange(window.GetLayout(), *this, [this](Control& control, QWidget& parent) {
+    return WidgetOf(control, parent);
+  }));
+  if (FillsWithGrid(window.GetLayout())) layout()->setContentsMargins(0, 0, 0, 0);
   if (MenuBar* menu = window.Menu()) MakeMenu(*menu);
   MakeTimers();
   report_.setSingleShot(true);
@@ -101,7 +112,9 @@ void WindowView::Refresh(const std::vector<Control*>& changed, bool windowChange
   setWindowTitle(ToQt(window_->Title()));
   RefreshMenu();
   RefreshFocus();
-  if (isVisible() && window_->HasOwnSize() && applied_ != window_->GetGeometry()) ApplyGeometry();
+  if (isVisible() && (window_->HasOwnSize() || window_->HasOwnPlace()) &&
+      applied_ != window_->GetGeometry())
+    ApplyGeometry();
 }
 
 void WindowView::RefreshControl(Control& control) {
@@ -175,7 +188,7 @@ void WindowView::PlaceFirst() {
   } else if (!window_->IsSizable()) {
     layout()->setSizeConstraint(QLayout::SetFixedSize);
   }
-  if (window_->Menu() != nullptr) return;  // the main window stands where it stood
+  if (window_->HasOwnPlace()) return;
   if (!window_->HasOwnSize()) adjustSize();
   const QRect free = screen()->availableGeometry();
   move(free.center() - rect().center());
@@ -187,18 +200,20 @@ void WindowView::ApplyGeometry() {
   const Geometry& geometry = window_->GetGeometry();
   applied_ = geometry;
   const auto pixels = [this](Single twips) { return PixelsOf(*this, twips.Value()); };
-  const QSize outer(pixels(geometry.width), pixels(geometry.height));
-  const QSize inner = (outer - FrameSize()).expandedTo(minimumSizeHint());
-  if (window_->IsSizable())
-    resize(inner);
-  else
-    setFixedSize(inner);
-  if (window_->Menu() != nullptr) move(pixels(geometry.left), pixels(geometry.top));
+  if (window_->HasOwnSize()) {
+    const QSize outer(pixels(geometry.width), pixels(geometry.height));
+    const QSize inner = (outer - FrameSize()).expandedTo(minimumSizeHint());
+    if (window_->IsSizable())
+      resize(inner);
+    else
+      setFixedSize(inner);
+  }
+  if (window_->HasOwnPlace()) move(pixels(geometry.left), pixels(geometry.top));
 }
 
 void WindowView::ReportGeometry() {
   if (window_ == nullptr || !isVisible()) return;
-  const auto state = isMinimized()                       ? Window::State::Minimized
+  const auto state = isMinimized()                     ? Window::State::Minimized
                      : isMaximized() || isFullScreen() ? Window::State::Maximized
                                                        : Window::State::Normal;
   // The window system puts its frame around the window some time after it is shown; the size told
@@ -260,6 +275,10 @@ void WindowView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && !views_.empty() && isVisible())
     for (const auto& [control, view] : views_)
       if (view) view->Refresh();
+}
+
+void WindowView::contextMenuEvent(QContextMenuEvent*) {
+  if (window_ != nullptr) person_.RightClicks(*window_);
 }
 
 void WindowView::mouseDoubleClickEvent(QMouseEvent*) {

@@ -23,6 +23,8 @@ class WindowView final : public QWidget {
   /// Brings controls, and if told the window itself, to the state of the model.
   void Refresh(const std::vector<Control*>& changed, bool windowChanged);
   void ComeToFront();
+  /// Tells the model where the window is, and how large.
+  void ReportGeometry();
   /// The model goes: nothing is reported any more, and the window closes.
   void Detach();
 
@@ -35,6 +37,7 @@ class WindowView final : public QWidget {
   void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   QWidget* WidgetOf(Control& control, QWidget& parent);
@@ -46,7 +49,6 @@ class WindowView final : public QWidget {
 
   void PlaceFirst();
   void ApplyGeometry();
-  void ReportGeometry();
   QSize FrameSize() const;
 
   Window* window_;  // null once detached

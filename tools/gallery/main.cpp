@@ -89,6 +89,13 @@ bool IsCutOff(const QWidget& view) {
   return cut;
 }
 
+/// Which table a viewer shows; none where it is no viewer.
+const char* TableOf(const Session& session, std::string_view window) {
+  if (window == "DISPLAY") return session.MetricUnits ? "CoprWirM.dat" : "COPRWIRE.dat";
+  if (window == "DISPLAY2") return session.MetricUnits ? "IECframe.dat" : "ACMOTORS.dat";
+  return "";
+}
+
 void DarkenPalette() {
   QPalette palette(QColor(0x35, 0x35, 0x35));
   palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
@@ -109,8 +116,14 @@ int Draw(const QDir& folder) {
     platform.SaveSetting("Units", metric ? "SI" : "US");
     session.Handle([&] { session.Show("MAINFORM"); });
     for (const WindowUnit& unit : WindowCatalogue()) {
+      session.DataFileName = TableOf(session, unit.name);
       session.AboutMode = true;  // the splash window in its larger form
-      session.Handle([&] { session.Show(unit.name); });
+      session.Handle([&] {
+        if (std::string_view(unit.name) == "Page_Setup")
+          session.PrintWindow(session.Show("FlowCalc"));
+        else
+          session.Show(unit.name);
+      });
       Window* window = session.Find(unit.name);
       if (window == nullptr) continue;
       Work(session, *window);

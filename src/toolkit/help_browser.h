@@ -1,0 +1,29 @@
+// Shows the pages of one folder, and nothing else.
+#pragma once
+
+#include <QString>
+#include <QTextBrowser>
+
+namespace korvane {
+
+class HelpBrowser final : public QTextBrowser {
+ public:
+  explicit HelpBrowser(QWidget* parent);
+
+  void SetFolder(const QString& folder) { folder_ = folder; }
+  void Show(const QString& address);
+
+ protected:
+  /// Pages and pictures of the folder. In a page's place that is not there, or not in the folder,
+  /// stands one that says so.
+  QVariant loadResource(int type, const QUrl& name) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  bool IsInFolder(const QString& path) const;
+  void Print();
+
+  QString folder_;
+};
+
+}  // namespace korvane
