@@ -1,17 +1,15 @@
 // korvane-gallery FOLDER [--dark]: a picture of every window in both unit systems, with a worked
-// example in it. Fails, and says where, if a control is cut off.
+// example in it. Fails, and says where, if a control is cut off or has no name of its own.
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <utility>
 #include <vector>
 
+#include "checks.h"
 #include "shell/window_catalogue.h"
 #include "toolkit/qt_platform.h"
 #include "toolkit/text.h"
@@ -49,46 +47,6 @@ void Work(Session& session, Window& window) {
       for (int tick = 0; timer->IsEnabled() && tick < longest; ++tick) person.Waits(*timer);
 }
 
-/// The room that a widget needs to show all that it holds.
-QSize NeededSize(const QWidget& widget) {
-  const QSize least = widget.minimumSizeHint();
-  if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
-    return label->fontMetrics()
-        .boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text())
-        .size();
-  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return combo->sizeHint();
-  // A number must be seen whole; addresses scroll.
-  if (const auto* field = qobject_cast<const QLineEdit*>(&widget);
-      field && field->alignment().testFlag(Qt::AlignRight)) {
-    constexpr int margins = 4;  // pixels, within the frame
-    const int frame = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field);
-    const int text = field->fontMetrics().horizontalAdvance(field->text());
-    return least.expandedTo({text + margins + 2 * frame, 0});
-  }
-  return least;
-}
-
-/// Tells, and answers whether there are, widgets with less room than they need.
-bool IsCutOff(const QWidget& view) {
-  bool cut = false;
-  for (const QWidget* child : view.findChildren<QWidget*>()) {
-    const bool isCaption = qobject_cast<const QLabel*>(child) != nullptr;
-    if (!child->isVisible() || (child->objectName().isEmpty() && !isCaption)) continue;
-    const QSize needed = NeededSize(*child);
-    const bool fits = child->width() >= needed.width() && child->height() >= needed.height();
-    const bool inside = child->parentWidget()->rect().contains(child->geometry());
-    const bool entriesLeftOver = child->objectName() == "qt_menubar_ext_button";
-    if (fits && inside && !entriesLeftOver) continue;
-    const QString name =
-        isCaption ? static_cast<const QLabel*>(child)->text() : child->objectName();
-    std::fprintf(stderr, "%s: \"%s\" is %d x %d%s, and needs %d x %d\n",
-                 qPrintable(view.objectName()), qPrintable(name), child->width(), child->height(),
-                 inside ? "" : ", beyond its parent's edge", needed.width(), needed.height());
-    cut = true;
-  }
-  return cut;
-}
-
 /// Which table a viewer shows; none where it is no viewer.
 const char* TableOf(const Session& session, std::string_view window) {
   if (window == "DISPLAY") return session.MetricUnits ? "CoprWirM.dat" : "COPRWIRE.dat";
@@ -107,7 +65,7 @@ void DarkenPalette() {
 }
 
 int Draw(const QDir& folder) {
-  bool cut = false;
+  bool flawed = false;
   QtPlatform platform;
   for (const bool metric : {false, true}) {
     Session session(platform, WindowCatalogue(), FromQt(QApplication::applicationDirPath()));
@@ -129,14 +87,17 @@ int Draw(const QDir& folder) {
       Work(session, *window);
       QApplication::processEvents();
       WindowView& view = *platform.View(*window);
-      cut = IsCutOff(view) || cut;
+      for (const QString& flaw : FlawsOf(view)) {
+        std::fprintf(stderr, "%s: %s\n", unit.name, qPrintable(flaw));
+        flawed = true;
+      }
       const QString file = QString("%1-%2.png").arg(unit.name, metric ? "SI" : "US");
       if (!view.grab().save(folder.filePath(file))) return 1;
       if (window->Menu() == nullptr) session.Handle([&] { session.Unload(*window); });
     }
     session.DropWindows();
   }
-  return cut ? 1 : 0;
+  return flawed ? 1 : 0;
 }
 
 }  // namespace
