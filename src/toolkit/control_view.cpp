@@ -19,6 +19,7 @@
 #include <optional>
 
 #include "frame/session.h"
+#include "toolkit/contrast.h"
 #include "toolkit/grid_view.h"
 #include "toolkit/help_browser.h"
 #include "toolkit/number_edit.h"
@@ -39,13 +40,6 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
 
 /// Black or white, whichever stands out against the colour.
 QColor Contrast(const QColor& back) { return qGray(back.rgb()) > 127 ? Qt::black : Qt::white; }
-
-/// Text that is told to be red or blue, made lighter on a dark ground.
-QColor Readable(QColor fore, const QColor& ground) {
-  if (qGray(ground.rgb()) > 127) return fore;
-  return QColor::fromHslF(std::max(fore.hslHueF(), 0.0F), fore.hslSaturationF() * 0.9F,
-                          std::max(fore.lightnessF(), 0.72F));
-}
 
 /// A view that knows its control and its widget by their own types.
 template <class Model, class Shown>

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QStyle>
 
+#include "toolkit/contrast.h"
+
 namespace korvane {
 namespace {
 
@@ -62,6 +64,17 @@ void FindNameless(QWidget& widget, QStringList& inputs, QStringList& flaws) {
   inputs << name;
 }
 
+void FindPale(const QWidget& widget, QStringList& flaws) {
+  const bool isField = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+  const bool isLabel = qobject_cast<const QLabel*>(&widget) != nullptr;
+  if (!widget.isEnabled() || (!isField && !isLabel)) return;
+  const QPalette& palette = widget.palette();
+  const QColor letters = palette.color(isField ? QPalette::Text : QPalette::WindowText);
+  const QColor ground = palette.color(isField ? QPalette::Base : QPalette::Window);
+  if (ContrastOf(letters, ground) < kReadableContrast)
+    flaws << QString("\"%1\" is %2 on %3").arg(widget.objectName(), letters.name(), ground.name());
+}
+
 }  // namespace
 
 QStringList FlawsOf(const QWidget& view) {
@@ -70,6 +83,7 @@ QStringList FlawsOf(const QWidget& view) {
     if (!child->isVisible()) continue;
     FindCutOff(*child, flaws);
     FindNameless(*child, inputs, flaws);
+    FindPale(*child, flaws);
   }
   return flaws;
 }
