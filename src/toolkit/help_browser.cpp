@@ -16,11 +16,27 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
 }
 
 void HelpBrowser::Show(const QString& address) {
-  const QUrl url = QUrl::fromUserInput(address, folder_, QUrl::AssumeLocalFile);
+  const QUrl url = UrlOf(address);
   if (source() == url)
     reload();
   else
     setSource(url, QTextDocument::HtmlResource);
+  clearHistory();  // the window keeps the history, and no key is to go round it
+}
+
+QUrl HelpBrowser::UrlOf(const QString& address) const {
+  const qsizetype mark = address.indexOf('#', address.lastIndexOf('/') + 1);
+  const QString page = address.left(mark);
+  QUrl url = QUrl::fromUserInput(page, folder_, QUrl::AssumeLocalFile);
+  if (!url.isValid()) url = QUrl::fromLocalFile(QDir(folder_).filePath(page));
+  if (mark >= 0) url.setFragment(address.mid(mark + 1));
+  return url;
+}
+
+QString HelpBrowser::AddressOf(const QUrl& link) const {
+  const QUrl url = source().resolved(link);
+  if (!url.isLocalFile()) return url.toString();
+  return url.toLocalFile() + (url.hasFragment() ? '#' + url.fragment() : QString());
 }
 
 bool HelpBrowser::IsInFolder(const QString& path) const {
