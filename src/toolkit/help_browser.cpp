@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPrintDialog>
@@ -13,6 +14,14 @@ namespace korvane {
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);  // the window decides what a link opens
   setOpenExternalLinks(false);
+}
+
+// The toolkit passes over links to style sheets that don't tell their type.
+void HelpBrowser::SetFolder(const QString& folder) {
+  if (folder == folder_) return;
+  folder_ = folder;
+  QFile style(QDir(folder_).filePath("style.css"));
+  if (style.open(QIODevice::ReadOnly)) document()->setDefaultStyleSheet(style.readAll());
 }
 
 void HelpBrowser::Show(const QString& address) {

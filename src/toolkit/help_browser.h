@@ -10,7 +10,8 @@ class HelpBrowser final : public QTextBrowser {
  public:
   explicit HelpBrowser(QWidget* parent);
 
-  void SetFolder(const QString& folder) { folder_ = folder; }
+  /// Its "style.css" is for all of its pages.
+  void SetFolder(const QString& folder);
   /// A path, in the folder if it is no full one, or a URL; either may end in a place on the page,
   /// "page.html#place".
   void Show(const QString& address);

@@ -35,7 +35,7 @@ class HelpWindow : public ::testing::Test {
     folder.Write("secret.html", "<p>Secret</p>");
     folder.Write("help/style.css", "p { color: #ff0000 }");
     folder.Write("help/contents.html",
-                 "<head><link rel=stylesheet href=style.css></head><h1>Contents</h1>"
+                 "<head><link rel=\"stylesheet\" href=\"style.css\"></head><h1>Contents</h1>"
                  "<p>Read <a href='one.html'>One</a> <a href='more/two.html#end'>Two</a>"
                  "<a href='https://www.korvane.example/news.html'>News</a></p>");
     folder.Write("help/one.html", "<h1>One</h1><p><a href='contents.html'>Back</a></p>");
