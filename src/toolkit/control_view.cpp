@@ -149,7 +149,11 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
       shown_.addItems(items);
       items_ = items;
     }
-    shown_.setCurrentRow(model_.Index());
+    if (shown_.currentRow() != model_.Index()) {
+      shown_.setCurrentRow(model_.Index());
+      // What the program chose is seen among its neighbours.
+      shown_.scrollToItem(shown_.currentItem(), QAbstractItemView::PositionAtCenter);
+    }
     shown_.setAccessibleName(Plain(model_.Caption()));
   }
 
