@@ -146,7 +146,11 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
       shown_.addItems(items);
       items_ = items;
     }
-    shown_.setCurrentRow(model_.Index());
+    if (shown_.currentRow() != model_.Index()) {
+      shown_.setCurrentRow(model_.Index());
+      // What the program chose is seen among its neighbours.
+      shown_.scrollToItem(shown_.currentItem(), QAbstractItemView::PositionAtCenter);
+    }
     shown_.setAccessibleName(Plain(model_.Caption()));
   }
 
@@ -364,14 +368,16 @@ class PageBrowser final : public ViewOf<PageView, HelpBrowser> {
   PageBrowser(PageView& page, const Person& person, QWidget& parent)
       : ViewOf(page, new HelpBrowser(&parent), person) {
     shown_.setAccessibleName(tr("Help page"));
-    connect(&shown_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
-      person_.Follows(model_, FromQt(AddressOf(shown_.source().resolved(link))));
-    });
+    connect(&shown_, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& link) { person_.Follows(model_, FromQt(shown_.AddressOf(link))); });
   }
 
  private:
-  static QString AddressOf(const QUrl& url) {
-    return url.isLocalFile() ? url.toLocalFile() : url.toString();
+  // Enter opens the link that has the focus, which is the widget's own matter.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && KeyOf(*static_cast<QKeyEvent*>(event)) == Key::Enter)
+      return false;
+    return ControlView::eventFilter(object, event);
   }
 
   void RefreshContent() override {

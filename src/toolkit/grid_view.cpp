@@ -17,12 +17,15 @@
 namespace korvane {
 namespace {
 
-/// The grid's alignment code: left, centre, right by top, centre, bottom; 9 is general.
-Qt::Alignment AlignmentOf(int code) {
+/// The grid's alignment code: left, centre, right by top, centre, bottom. 9 is general, as all
+/// others: numbers to the right, texts to the left.
+Qt::Alignment AlignmentOf(int code, const QString& text) {
   constexpr Qt::Alignment across[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
   constexpr Qt::Alignment down[] = {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom};
-  if (code < 0 || code > 8) return Qt::AlignLeft | Qt::AlignVCenter;
-  return across[code / 3] | down[code % 3];
+  if (code >= 0 && code <= 8) return across[code / 3] | down[code % 3];
+  bool number = false;
+  text.toDouble(&number);
+  return (number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 /// A rectangle of the grid's table: rows and columns from a first one up to a last one exclusive.
@@ -52,12 +55,14 @@ class PaneModel final : public QAbstractTableModel {
   }
 
   QVariant data(const QModelIndex& index, int role) const override {
-    const Table& table = grid_.Content();
+    const int row = FirstRow() + index.row();
     const int column = FirstColumn() + index.column();
     switch (role) {
-      case Qt::DisplayRole: return ToQt(table.At(FirstRow() + index.row(), column));
-      case Qt::TextAlignmentRole:
-        return QVariant(AlignmentOf(table.alignments[static_cast<std::size_t>(column)]));
+      case Qt::DisplayRole: return TextAt(row, column);
+      case Qt::TextAlignmentRole: {
+        const int code = grid_.Content().alignments[static_cast<std::size_t>(column)];
+        return QVariant(AlignmentOf(code, TextAt(row, column)));
+      }
       case Qt::BackgroundRole:
         return fixedRows_ || fixedColumns_
                    ? QVariant(QApplication::palette().brush(QPalette::Button))
@@ -66,7 +71,23 @@ class PaneModel final : public QAbstractTableModel {
     }
   }
 
+  /// What stands fixed above a column or beside a row. The views hide their headers, but screen
+  /// readers tell by them where a cell is.
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (role != Qt::DisplayRole) return {};
+    const Table& table = grid_.Content();
+    QStringList texts;
+    if (orientation == Qt::Horizontal)
+      for (int row = 0; row < table.fixedRows; ++row) texts << TextAt(row, FirstColumn() + section);
+    else
+      for (int column = 0; column < table.fixedColumns; ++column)
+        texts << TextAt(FirstRow() + section, column);
+    return texts.join(' ');
+  }
+
  private:
+  QString TextAt(int row, int column) const { return ToQt(grid_.Content().At(row, column)); }
+
   const Grid& grid_;
   bool fixedRows_;
   bool fixedColumns_;
@@ -85,6 +106,7 @@ struct Pane {
     view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setWordWrap(false);
+    view.setTabKeyNavigation(false);  // the Tab key leaves the grid
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     if (!fixed) return;
@@ -131,6 +153,7 @@ class GridView final : public ControlView {
     Link(body_.view.horizontalScrollBar(), top_.view.horizontalScrollBar());
     Link(body_.view.verticalScrollBar(), left_.view.verticalScrollBar());
 
+    box.setMinimumSize(1, 1);  // however wide the fixed columns are
     box.setFocusProxy(&body_.view);
     body_.view.setSelectionMode(QAbstractItemView::SingleSelection);
     for (Pane* pane : {&corner_, &top_, &left_, &body_}) {
@@ -190,19 +213,30 @@ class GridView final : public ControlView {
     if (grid_.Version() != shown_) {
       shown_ = grid_.Version();
       for (Pane* pane : {&corner_, &top_, &left_, &body_}) pane->Reload(table);
-      for (Pane* pane : {&corner_, &left_}) {
-        pane->view.setFixedWidth(pane->Width());
-        pane->view.setVisible(table.fixedColumns > 0);
-      }
-      for (Pane* pane : {&corner_, &top_}) {
-        pane->view.setFixedHeight(pane->Height());
-        if (table.fixedRows == 0) pane->view.hide();
-      }
+      for (Pane* pane : {&corner_, &left_}) pane->view.setFixedWidth(pane->Width());
+      for (Pane* pane : {&corner_, &top_}) pane->view.setFixedHeight(pane->Height());
+      corner_.view.setVisible(table.fixedRows > 0 && table.fixedColumns > 0);
+      top_.view.setVisible(table.fixedRows > 0);
+      left_.view.setVisible(table.fixedColumns > 0);
     }
-    body_.view.setAccessibleName(Plain(grid_.Caption()));
+    Describe(table);
     const QModelIndex current = body_.model.index(grid_.Row() - body_.model.FirstRow(),
                                                   grid_.Column() - body_.model.FirstColumn());
     if (current != body_.view.currentIndex()) body_.view.setCurrentIndex(current);
+  }
+
+  void Describe(const Table& table) {
+    const QString name = Plain(grid_.Caption());
+    body_.view.setAccessibleName(name);
+    body_.view.setAccessibleDescription(
+        tr("Table of %1 rows and %2 columns, %3 and %4 of them headings")
+            .arg(table.rows)
+            .arg(table.columns)
+            .arg(table.fixedRows)
+            .arg(table.fixedColumns));
+    top_.view.setAccessibleName(tr("Column headings of %1").arg(name));
+    left_.view.setAccessibleName(tr("Row headings of %1").arg(name));
+    corner_.view.setAccessibleName(tr("Corner of %1").arg(name));
   }
 
   Grid& grid_;

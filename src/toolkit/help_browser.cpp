@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QPrintDialog>
@@ -15,12 +16,36 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
   setOpenExternalLinks(false);
 }
 
+// The toolkit passes over links to style sheets that don't tell their type.
+void HelpBrowser::SetFolder(const QString& folder) {
+  if (folder == folder_) return;
+  folder_ = folder;
+  QFile style(QDir(folder_).filePath("style.css"));
+  if (style.open(QIODevice::ReadOnly)) document()->setDefaultStyleSheet(style.readAll());
+}
+
 void HelpBrowser::Show(const QString& address) {
-  const QUrl url = QUrl::fromUserInput(address, folder_, QUrl::AssumeLocalFile);
+  const QUrl url = UrlOf(address);
   if (source() == url)
     reload();
   else
     setSource(url, QTextDocument::HtmlResource);
+  clearHistory();  // the window keeps the history, and no key is to go round it
+}
+
+QUrl HelpBrowser::UrlOf(const QString& address) const {
+  const qsizetype mark = address.indexOf('#', address.lastIndexOf('/') + 1);
+  const QString page = address.left(mark);
+  QUrl url = QUrl::fromUserInput(page, folder_, QUrl::AssumeLocalFile);
+  if (!url.isValid()) url = QUrl::fromLocalFile(QDir(folder_).filePath(page));
+  if (mark >= 0) url.setFragment(address.mid(mark + 1));
+  return url;
+}
+
+QString HelpBrowser::AddressOf(const QUrl& link) const {
+  const QUrl url = source().resolved(link);
+  if (!url.isLocalFile()) return url.toString();
+  return url.toLocalFile() + (url.hasFragment() ? '#' + url.fragment() : QString());
 }
 
 bool HelpBrowser::IsInFolder(const QString& path) const {

@@ -10,8 +10,13 @@ class HelpBrowser final : public QTextBrowser {
  public:
   explicit HelpBrowser(QWidget* parent);
 
-  void SetFolder(const QString& folder) { folder_ = folder; }
+  /// Its "style.css" is for all of its pages.
+  void SetFolder(const QString& folder);
+  /// A path, in the folder if it is no full one, or a URL; either may end in a place on the page,
+  /// "page.html#place".
   void Show(const QString& address);
+  /// The address of a link on the page that is shown.
+  QString AddressOf(const QUrl& link) const;
 
  protected:
   /// Pages and pictures of the folder. In a page's place that is not there, or not in the folder,
@@ -20,6 +25,7 @@ class HelpBrowser final : public QTextBrowser {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  QUrl UrlOf(const QString& address) const;
   bool IsInFolder(const QString& path) const;
   void Print();
 

@@ -1,11 +1,13 @@
 #include "toolkit/printing.h"
 
-#include <QFileDialog>
+#include <QBuffer>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "frame/files.h"
 #include "toolkit/capture.h"
 #include "toolkit/text.h"
 #include "toolkit/twips.h"
@@ -15,6 +17,22 @@ namespace {
 
 constexpr const char* kPdf = "Print to PDF";
 constexpr double kTwipsPerPoint = 20;
+
+/// Paints the page from the corner of the paper.
+void Paint(const PrintedPage& page, QPagedPaintDevice& device) {
+  QPainter painter;
+  if (!painter.begin(&device)) failures::PrinterError();
+  const int resolution = device.logicalDpiX();
+  const double scale = resolution / kTwipsPerInch;
+  if (page.header) {
+    const QMargins margins = device.pageLayout().marginsPixels(resolution);
+    painter.drawText(margins.left(), margins.top() + painter.fontMetrics().ascent(),
+                     ToQt(*page.header));
+  }
+  painter.drawImage(QRectF(page.x * scale, page.y * scale, page.width * scale, page.height * scale),
+                    capture::Last());
+  if (!painter.end()) failures::PrinterError();
+}
 
 }  // namespace
 
@@ -41,7 +59,7 @@ std::optional<Printer> Printing::Current() {
   const QPageLayout layout = device.pageLayout();
   if (!layout.isValid()) return std::nullopt;
   const QSizeF paper = layout.fullRect(QPageLayout::Point).size() * kTwipsPerPoint;
-  return Printer{device.outputFormat() == QPrinter::PdfFormat ? kPdf : FromQt(device.printerName()),
+  return Printer{IsFile() ? kPdf : FromQt(device.printerName()),
                  layout.orientation() == QPageLayout::Landscape ? Orientation::Landscape
                                                                 : Orientation::Portrait,
                  paper.width(), paper.height()};
@@ -66,26 +84,23 @@ void Printing::SetUp(const std::string& title, QWidget* parent) {
   dialog.exec();
 }
 
-void Printing::Print(const PrintedPage& page, QWidget* parent) {
-  QPrinter& device = Device();
-  if (device.outputFormat() == QPrinter::PdfFormat) {
-    const QString file =
-        QFileDialog::getSaveFileName(parent, "Print to PDF", "korvane.pdf", "PDF files (*.pdf)");
-    if (file.isEmpty()) return;
-    device.setOutputFileName(file);
-  }
-  device.setFullPage(true);
-  QPainter painter;
-  if (!painter.begin(&device)) failures::PrinterError();
-  const double scale = device.resolution() / kTwipsPerInch;
-  if (page.header) {
-    const QRectF printable = device.pageLayout().paintRectPixels(device.resolution());
-    painter.drawText(printable.topLeft() + QPointF(0, painter.fontMetrics().ascent()),
-                     ToQt(*page.header));
-  }
-  painter.drawImage(QRectF(page.x * scale, page.y * scale, page.width * scale, page.height * scale),
-                    capture::Last());
-  if (!painter.end()) failures::PrinterError();
+bool Printing::IsFile() { return Device().outputFormat() == QPrinter::PdfFormat; }
+
+void Printing::Print(const PrintedPage& page) {
+  Device().setFullPage(true);
+  Paint(page, Device());
+}
+
+void Printing::PrintToFile(const PrintedPage& page, const std::string& path) {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&file);
+  writer.setCreator(kProgramName);
+  QPageLayout layout = Device().pageLayout();
+  layout.setMode(QPageLayout::FullPageMode);
+  writer.setPageLayout(layout);
+  Paint(page, writer);
+  WriteFile(path, file.data().toStdString());
 }
 
 }  // namespace korvane

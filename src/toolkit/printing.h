@@ -23,9 +23,12 @@ class Printing {
   void Choose(const std::string& name);
   void SetOrientation(Orientation orientation);
   void SetUp(const std::string& title, QWidget* parent);
-  /// Paints the captured image on one page. Fails with "Printer error". A PDF file is asked for
-  /// first; no file, no page.
-  void Print(const PrintedPage& page, QWidget* parent);
+  /// Whether the current printer is the PDF file.
+  bool IsFile();
+  /// Paints the captured image on one page. Fails with "Printer error".
+  void Print(const PrintedPage& page);
+  /// The same as a PDF file, which is written as `WriteFile` does, with its failures.
+  void PrintToFile(const PrintedPage& page, const std::string& path);
 
  private:
   QPrinter& Device();

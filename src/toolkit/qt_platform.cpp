@@ -171,7 +171,16 @@ void QtPlatform::SetOrientation(Orientation orientation) { printing_.SetOrientat
 
 void QtPlatform::SetUpPrinter(const std::string& title) { printing_.SetUp(title, Front()); }
 
-void QtPlatform::Print(const PrintedPage& page) { printing_.Print(page, Front()); }
+void QtPlatform::Print(const PrintedPage& page) {
+  if (!printing_.IsFile()) {
+    printing_.Print(page);
+    return;
+  }
+  // No file, no page.
+  if (const auto path = ChooseFile(
+          {FileDialog::Action::Save, "Print to PDF", "korvane.pdf", "", "PDF files (*.pdf)|*.pdf"}))
+    printing_.PrintToFile(page, *path);
+}
 
 // ---- Services ----
 

@@ -7,6 +7,11 @@
 #include <memory>
 
 namespace korvane {
+namespace {
+
+constexpr qint64 kLongestText = 4096;  // bytes; a version number is a dozen
+
+}  // namespace
 
 QString GetText(const QString& address, int milliseconds) {
   QNetworkAccessManager manager;
@@ -14,10 +19,12 @@ QString GetText(const QString& address, int milliseconds) {
   QEventLoop loop;
   QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
   QTimer::singleShot(milliseconds, reply.get(), &QNetworkReply::abort);
+  QObject::connect(reply.get(), &QNetworkReply::readyRead, reply.get(), [&reply] {
+    if (reply->bytesAvailable() > kLongestText) reply->abort();
+  });
   if (!reply->isFinished()) loop.exec(QEventLoop::ExcludeUserInputEvents);
   if (reply->error() != QNetworkReply::NoError) return {};
-  constexpr qint64 longest = 4096;  // bytes; a version number is a dozen
-  return QString::fromUtf8(reply->read(longest));
+  return QString::fromUtf8(reply->readAll());
 }
 
 }  // namespace korvane

@@ -5,8 +5,8 @@
 
 namespace korvane {
 
-/// The body that a GET of the address brings; empty on any failure, and after ten seconds. Blocks,
-/// but lets windows be painted.
+/// The body that a GET of the address brings; empty on any failure, after ten seconds, and where it
+/// is longer than 4096 bytes. Blocks, but lets windows be painted.
 QString GetText(const QString& address, int milliseconds = 10000);
 
 }  // namespace korvane
