@@ -301,6 +301,10 @@ class LabelView final : public ViewOf<Label, QLabel> {
   LabelView(Label& label, const Person& person, QWidget& parent)
       : ViewOf(label, new QLabel(&parent), person) {
     shown_.setTextFormat(Qt::PlainText);
+    if (label.Back() == Color::Window()) {  // shows a value, as a field does
+      shown_.setFrameShape(QFrame::StyledPanel);
+      shown_.setMargin(4);
+    }
     if (label.onClick) shown_.setCursor(Qt::PointingHandCursor);
   }
 

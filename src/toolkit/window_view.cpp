@@ -159,7 +159,9 @@ void WindowView::RefreshMenu() {
 void WindowView::RefreshFocus() {
   const auto view = views_.find(window_->Focus());
   if (view == views_.end()) return;
-  if (QWidget& widget = view->second->Widget(); focusWidget() != &widget) widget.setFocus();
+  // As by the Tab key, which selects the text of a field: what is typed takes its place.
+  if (QWidget& widget = view->second->Widget(); focusWidget() != &widget)
+    widget.setFocus(Qt::TabFocusReason);
 }
 
 void WindowView::ComeToFront() {
@@ -257,6 +259,8 @@ bool WindowView::focusNextPrevChild(bool next) {
 void WindowView::keyPressEvent(QKeyEvent* event) {
   if (window_ != nullptr && event->key() == Qt::Key_F1)
     person_.Presses(*window_, Key::F1);
+  else if (window_ != nullptr && event->key() == Qt::Key_Escape && window_->CancelCommand())
+    person_.Clicks(*window_->CancelCommand());
   else
     QWidget::keyPressEvent(event);
 }
