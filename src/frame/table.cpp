@@ -1,5 +1,7 @@
 #include "frame/table.h"
 
+#include <cstdint>
+
 #include "frame/codepage.h"
 #include "frame/delimited.h"
 #include "frame/runtime_failure.h"
@@ -32,8 +34,8 @@ Table ParseTable(std::string_view bytes) {
     table.widths.push_back(reader.Number().Value());
   for (int column = 0; column < table.columns; ++column) table.alignments.push_back(count());
   // Nothing is taken for cells before they are read: a file may declare more than it holds.
-  for (int row = 0; row < table.rows; ++row)
-    for (int column = 0; column < table.columns; ++column) table.texts.push_back(reader.Text());
+  const std::int64_t cells = std::int64_t{table.rows} * table.columns;
+  for (std::int64_t cell = 0; cell < cells; ++cell) table.texts.push_back(reader.Text());
   return table;
 }
 

@@ -97,9 +97,9 @@ class PaneModel final : public QAbstractTableModel {
 struct Pane {
   Pane(const Grid& grid, QWidget& parent, bool fixedRows, bool fixedColumns)
       : view(&parent), model(grid, fixedRows, fixedColumns), fixed(fixedRows || fixedColumns) {
-    view.setModel(&model);
-    view.horizontalHeader()->hide();
+    view.horizontalHeader()->hide();  // at once: while they are seen, they measure their texts
     view.verticalHeader()->hide();
+    view.setModel(&model);
     view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view.verticalHeader()->setDefaultSectionSize(GridRowPixels());
     view.setFrameShape(QFrame::NoFrame);

@@ -119,11 +119,10 @@ TEST_F(Tables, ShowScrollBarsOnlyWhereNeeded) {
     Shape shape;
     bool across, down;
   };
+  // A window is as high as its rows, and the bar below takes of that.
   const Case kCases[] = {
       {{3, 2, 1, 1}, false, false},  {{25, 6, 2, 1}, false, false}, {{2, 2, 0, 0}, false, false},
-      {{500, 3, 1, 1}, false, true}, {{3, 60, 1, 1}, true, true},  // the window is as high as the
-                                                                   // rows, and the bar takes of it
-      {{500, 60, 0, 0}, true, true},
+      {{500, 3, 1, 1}, false, true}, {{3, 60, 1, 1}, true, true},   {{500, 60, 0, 0}, true, true},
   };
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   for (const Case& test : kCases) {
