@@ -47,6 +47,7 @@ Page_Setup::Page_Setup(Session& session)
   };
   btn_print.onClick = [this] { Print(); };
   Command2.onClick = [this] { GetSession().Unload(*this); };
+  SetCancel(Command2);
 }
 
 Layout Page_Setup::Arrangement() {

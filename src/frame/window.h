@@ -80,6 +80,10 @@ class Window {
   Command* DefaultCommand() const { return default_; }
   void SetDefault(Command& command) { default_ = &command; }
 
+  /// The command that the Escape key performs.
+  Command* CancelCommand() const { return cancel_; }
+  void SetCancel(Command& command) { cancel_ = &command; }
+
   bool IsShown() const { return shown_; }
   State GetState() const { return state_; }
   const Geometry& GetGeometry() const { return geometry_; }
@@ -118,6 +122,7 @@ class Window {
   FocusControl* focus_ = nullptr;
   bool arrived_ = false;  // a field that the focus has not come to rest in is not left
   Command* default_ = nullptr;
+  Command* cancel_ = nullptr;
   Geometry geometry_;
   Color back_ = Color::ButtonFace();
   State state_ = State::Normal;

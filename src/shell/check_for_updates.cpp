@@ -14,6 +14,8 @@ constexpr Color kBlue = Color::Bgr(0xFF0000);
 
 Check_for_Updates::Check_for_Updates(Session& session)
     : Window(session, {.name = "Check_for_Updates", .title = "Check for Updates"}) {
+  txt_this_version.SetLocked(true);
+  txt_latest_version.SetLocked(true);
   btn_ok.onClick = [this] { GetSession().Unload(*this); };
   btn_download.onClick = [this] {
     GetSession().GetPlatform().Launch(WebAddress("/download.html"));
@@ -21,8 +23,8 @@ Check_for_Updates::Check_for_Updates(Session& session)
 }
 
 Layout Check_for_Updates::Arrangement() {
-  return Column({Cells({Row({Label1, txt_this_version}), Row({Label2, txt_latest_version})}),
-                 lbl_message, Row({btn_download, Stretch(), btn_ok})});
+  return Column({Form({txt_this_version, txt_latest_version}), lbl_message,
+                 Row({btn_ok, Stretch(), btn_download})});
 }
 
 // A plain comparison of texts: any difference counts as a newer version.
@@ -31,14 +33,14 @@ void Check_for_Updates::Load() {
   session.HelpTopic = "contents.html";
   ApplyFormColors(*this);
   const std::string& latest = session.RemoteVersionText;
-  txt_this_version.SetCaption(session.VersionText);
-  txt_latest_version.SetCaption(latest);
+  txt_this_version.SetText(session.VersionText);
+  txt_latest_version.SetText(latest);
   const auto tell = [this](const char* message, Color color) {
     lbl_message.SetCaption(message);
     lbl_message.SetFore(color);
   };
   if (latest.empty()) {
-    txt_latest_version.SetCaption("???");
+    txt_latest_version.SetText("???");
     tell("Could not read version from web site!", kRed);
   } else if (latest != session.VersionText) {
     tell("A newer version is available.", kRed);

@@ -15,9 +15,9 @@ class Check_for_Updates final : public Window {
   Layout Arrangement() override;
 
   Label Label1{*this, "Label1", "You are using version number"};
-  Label txt_this_version{*this, "txt_this_version"};
+  TextField txt_this_version{*this, "txt_this_version", Label1};
   Label Label2{*this, "Label2", "The latest version number is"};
-  Label txt_latest_version{*this, "txt_latest_version"};
+  TextField txt_latest_version{*this, "txt_latest_version", Label2};
   Label lbl_message{*this, "lbl_message"};
   Command btn_ok{*this, "btn_ok", "Ok"};
   Command btn_download{*this, "btn_download", "Download  Latest  Version"};

@@ -12,6 +12,7 @@ Folder_Browser::Folder_Browser(Session& session)
   btn_reset.onClick = [this] { Label1.SetCaption(GetSession().ProgramFolder()); };
   btn_ok.onClick = [this] { Accept(); };
   btn_cancel.onClick = [this] { GetSession().Unload(*this); };
+  SetCancel(btn_cancel);
 }
 
 Layout Folder_Browser::Arrangement() {

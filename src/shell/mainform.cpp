@@ -38,11 +38,11 @@ void MAINFORM::Load() {
   session.AppPath = session.ProgramFolder();
   if (session.AppPath.ends_with(kSeparator)) session.AppPath.pop_back();
   FindDataPath();
-  MakeMenu();
   if (session.ShowsSplash) {
     session.ShowModal("Splash");
     session.Unload("Splash");
   }
+  MakeMenu();
   ReadUnits();
   session.HelpContextId = 1000;
 }

@@ -1,5 +1,6 @@
 #include "toolkit/control_view.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
@@ -18,6 +19,7 @@
 #include <optional>
 
 #include "frame/session.h"
+#include "toolkit/contrast.h"
 #include "toolkit/grid_view.h"
 #include "toolkit/help_browser.h"
 #include "toolkit/number_edit.h"
@@ -38,13 +40,6 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
 
 /// Black or white, whichever stands out against the colour.
 QColor Contrast(const QColor& back) { return qGray(back.rgb()) > 127 ? Qt::black : Qt::white; }
-
-/// Text that is told to be red or blue, made lighter on a dark ground.
-QColor Readable(QColor fore, const QColor& ground) {
-  if (qGray(ground.rgb()) > 127) return fore;
-  return QColor::fromHslF(std::max(fore.hslHueF(), 0.0F), fore.hslSaturationF() * 0.9F,
-                          std::max(fore.lightnessF(), 0.72F));
-}
 
 /// A view that knows its control and its widget by their own types.
 template <class Model, class Shown>
@@ -68,8 +63,10 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
     shown_.setAlignment(number ? Qt::AlignRight | Qt::AlignVCenter
                                : Qt::AlignLeft | Qt::AlignVCenter);
     shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * (number ? 18 : 40));
-    connect(&shown_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { person_.Edits(model_, FromQt(text)); });
+    // What assistive programs set counts as typed too.
+    connect(&shown_, &QLineEdit::textChanged, this, [this](const QString& text) {
+      if (text != ToQt(model_.Text())) person_.Types(model_, FromQt(text));
+    });
     // A right click for the Copy command leaves the focus where it is; see eventFilter for the
     // left.
     if (field.IsResult()) shown_.setFocusPolicy(Qt::NoFocus);
@@ -177,16 +174,45 @@ class CommandView final : public ViewOf<Command, QPushButton> {
   }
 };
 
-class OptionView final : public ViewOf<Option, QRadioButton> {
+/// A button whose mark the model alone sets: a click asks for it.
+template <class Button>
+class Marked final : public Button {
+ public:
+  using Button::Button;
+
+ protected:
+  void nextCheckState() override {}
+};
+
+/// Of an option or check box: a person clicks it, an assistive program may turn its mark over.
+template <class Model, class Button>
+class MarkView : public ViewOf<Model, Button> {
+ public:
+  MarkView(Model& model, Button* button, const Person& person)
+      : ViewOf<Model, Button>(model, button, person) {
+    this->connect(button, &Button::clicked, this, [this] { this->person_.Clicks(this->model_); });
+    this->connect(button, &Button::toggled, this, [this](bool on) {
+      if (on == this->model_.IsOn()) return;
+      RefreshContent();
+      this->person_.Clicks(this->model_);
+    });
+  }
+
+ private:
+  void RefreshContent() override {
+    this->shown_.setText(ToQt(this->model_.Caption()));
+    this->shown_.setChecked(this->model_.IsOn());
+  }
+};
+
+class OptionView final : public MarkView<Option, QRadioButton> {
  public:
   OptionView(Option& option, const Person& person, QWidget& parent)
-      : ViewOf(option, new QRadioButton(&parent), person) {
-    // The model says which one is on, so that groups in one frame do not disturb one another.
-    shown_.setAutoExclusive(false);
-    connect(&shown_, &QRadioButton::clicked, this, [this] {
-      shown_.setChecked(model_.IsOn());
-      person_.Clicks(model_);
-    });
+      : MarkView(option, new Marked<QRadioButton>(&parent), person) {
+    // Radio buttons of one parent exclude one another unless they are in a group.
+    auto* alone = new QButtonGroup(&shown_);
+    alone->setExclusive(false);
+    alone->addButton(&shown_);
   }
 
  private:
@@ -217,28 +243,12 @@ class OptionView final : public ViewOf<Option, QRadioButton> {
       }
     }
   }
-
-  void RefreshContent() override {
-    shown_.setText(ToQt(model_.Caption()));
-    shown_.setChecked(model_.IsOn());
-  }
 };
 
-class CheckView final : public ViewOf<CheckBox, QCheckBox> {
+class CheckView final : public MarkView<CheckBox, QCheckBox> {
  public:
   CheckView(CheckBox& check, const Person& person, QWidget& parent)
-      : ViewOf(check, new QCheckBox(&parent), person) {
-    connect(&shown_, &QCheckBox::clicked, this, [this] {
-      shown_.setChecked(model_.IsOn());
-      person_.Clicks(model_);
-    });
-  }
-
- private:
-  void RefreshContent() override {
-    shown_.setText(ToQt(model_.Caption()));
-    shown_.setChecked(model_.IsOn());
-  }
+      : MarkView(check, new Marked<QCheckBox>(&parent), person) {}
 };
 
 class SpinView final : public ViewOf<SpinButton, QWidget> {
@@ -291,6 +301,10 @@ class LabelView final : public ViewOf<Label, QLabel> {
   LabelView(Label& label, const Person& person, QWidget& parent)
       : ViewOf(label, new QLabel(&parent), person) {
     shown_.setTextFormat(Qt::PlainText);
+    if (label.Back() == Color::Window()) {  // shows a value, as a field does
+      shown_.setFrameShape(QFrame::StyledPanel);
+      shown_.setMargin(4);
+    }
     if (label.onClick) shown_.setCursor(Qt::PointingHandCursor);
   }
 

@@ -14,6 +14,7 @@ namespace korvane {
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);  // the window decides what a link opens
   setOpenExternalLinks(false);
+  document()->setDocumentMargin(12);
 }
 
 // The toolkit passes over links to style sheets that don't tell their type.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include "shell/window_catalogue.h"
 #include "toolkit/qt_platform.h"
@@ -12,7 +13,8 @@ int main(int, char** argv) {
   QApplication app(count, argv);
   QApplication::setApplicationName(korvane::kProgramName);
   QApplication::setDesktopFileName("korvane");
-  QApplication::setWindowIcon(QIcon(":/korvane.svg"));
+  // The drawing of the icon is read once the first window is up, which it would hold up.
+  QTimer::singleShot(100, [] { QApplication::setWindowIcon(QIcon(":/korvane.svg")); });
   QApplication::setQuitOnLastWindowClosed(false);  // the session knows when the last one has gone
 
   korvane::QtPlatform platform;

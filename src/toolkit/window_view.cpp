@@ -159,7 +159,9 @@ void WindowView::RefreshMenu() {
 void WindowView::RefreshFocus() {
   const auto view = views_.find(window_->Focus());
   if (view == views_.end()) return;
-  if (QWidget& widget = view->second->Widget(); focusWidget() != &widget) widget.setFocus();
+  // As by the Tab key, which selects the text of a field: what is typed takes its place.
+  if (QWidget& widget = view->second->Widget(); focusWidget() != &widget)
+    widget.setFocus(Qt::TabFocusReason);
 }
 
 void WindowView::ComeToFront() {
@@ -240,6 +242,14 @@ void WindowView::resizeEvent(QResizeEvent*) { report_.start(); }
 
 // ---- What the person does ----
 
+bool WindowView::event(QEvent* event) {
+  // A text that grows makes room for itself in a window of fixed size, rather than push others out.
+  if (event->type() == QEvent::LayoutRequest && window_ != nullptr && window_->HasOwnSize() &&
+      !window_->IsSizable())
+    setFixedSize(size().expandedTo(minimumSizeHint()));
+  return QWidget::event(event);
+}
+
 bool WindowView::focusNextPrevChild(bool next) {
   if (window_ == nullptr || window_->TabOrder().empty()) return QWidget::focusNextPrevChild(next);
   person_.Presses(*window_, next ? Key::Tab : Key::BackTab);
@@ -249,6 +259,8 @@ bool WindowView::focusNextPrevChild(bool next) {
 void WindowView::keyPressEvent(QKeyEvent* event) {
   if (window_ != nullptr && event->key() == Qt::Key_F1)
     person_.Presses(*window_, Key::F1);
+  else if (window_ != nullptr && event->key() == Qt::Key_Escape && window_->CancelCommand())
+    person_.Clicks(*window_->CancelCommand());
   else
     QWidget::keyPressEvent(event);
 }

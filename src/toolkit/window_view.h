@@ -29,6 +29,7 @@ class WindowView final : public QWidget {
   void Detach();
 
  protected:
+  bool event(QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;

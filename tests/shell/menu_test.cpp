@@ -113,8 +113,8 @@ TEST_F(Menus, ReachTheWeb) {
   for (const Case& test : kCases) {
     suite.platform.webPages["https://www.korvane.example/korvane_version.txt"] = test.answer;
     Pick("mnu_check_for_updates");
-    EXPECT_EQ(suite.Get("txt_this_version").Caption(), "2.0.5");
-    EXPECT_EQ(suite.Get("txt_latest_version").Caption(), test.shown);
+    EXPECT_EQ(suite.Get<TextField>("txt_this_version").Text(), "2.0.5");
+    EXPECT_EQ(suite.Get<TextField>("txt_latest_version").Text(), test.shown);
     EXPECT_EQ(suite.Get("lbl_message").Caption(), test.message);
     EXPECT_EQ(suite.Get("lbl_message").Fore(), test.color);
     suite.person.Clicks(suite.Get("btn_ok"));

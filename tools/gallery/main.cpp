@@ -1,5 +1,5 @@
 // korvane-gallery FOLDER [--dark]: a picture of every window in both unit systems, with a worked
-// example in it. Fails, and says where, if a control is cut off.
+// example in it. Fails, and says where, if a control is cut off or has no name of its own.
 
 #include <QApplication>
 #include <QDir>
@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "checks.h"
 #include "shell/window_catalogue.h"
 #include "toolkit/qt_platform.h"
 #include "toolkit/text.h"
@@ -40,21 +41,10 @@ void Work(Session& session, Window& window) {
     person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
     person.Presses(window, Key::Enter);
   }
-}
-
-/// Widgets that have less room than they need to show what they hold.
-bool IsCutOff(const QWidget& view) {
-  bool cut = false;
-  for (const QWidget* child : view.findChildren<QWidget*>()) {
-    const QSize least = child->minimumSizeHint();
-    if (!child->isVisible() || child->objectName().isEmpty() || !least.isValid()) continue;
-    if (child->width() >= least.width() && child->height() >= least.height()) continue;
-    std::fprintf(stderr, "%s: %s is %d x %d, and needs %d x %d\n", qPrintable(view.objectName()),
-                 qPrintable(child->objectName()), child->width(), child->height(), least.width(),
-                 least.height());
-    cut = true;
-  }
-  return cut;
+  constexpr int longest = 50;  // ticks, after which an animation has come to its end
+  for (Control* control : window.Controls())
+    if (auto* timer = dynamic_cast<Timer*>(control))
+      for (int tick = 0; timer->IsEnabled() && tick < longest; ++tick) person.Waits(*timer);
 }
 
 /// Which table a viewer shows; none where it is no viewer.
@@ -68,11 +58,14 @@ void DarkenPalette() {
   QPalette palette(QColor(0x35, 0x35, 0x35));
   palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
   palette.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+  palette.setColor(QPalette::Link, QColor(0x6C, 0xB4, 0xEE));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
   QApplication::setPalette(palette);
 }
 
 int Draw(const QDir& folder) {
-  bool cut = false;
+  bool flawed = false;
   QtPlatform platform;
   for (const bool metric : {false, true}) {
     Session session(platform, WindowCatalogue(), FromQt(QApplication::applicationDirPath()));
@@ -94,14 +87,17 @@ int Draw(const QDir& folder) {
       Work(session, *window);
       QApplication::processEvents();
       WindowView& view = *platform.View(*window);
-      cut = IsCutOff(view) || cut;
+      for (const QString& flaw : FlawsOf(view)) {
+        std::fprintf(stderr, "%s: %s\n", unit.name, qPrintable(flaw));
+        flawed = true;
+      }
       const QString file = QString("%1-%2.png").arg(unit.name, metric ? "SI" : "US");
       if (!view.grab().save(folder.filePath(file))) return 1;
       if (window->Menu() == nullptr) session.Handle([&] { session.Unload(*window); });
     }
     session.DropWindows();
   }
-  return cut ? 1 : 0;
+  return flawed ? 1 : 0;
 }
 
 }  // namespace
