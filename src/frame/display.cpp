@@ -101,8 +101,11 @@ void DISPLAY::Load() {
   SetTitle(" " + table.title);
   Grid1.CaptionBeside().SetCaption(table.title);
   TakeSize(table);
+  const int lastRow = table.rows - 1, lastColumn = table.columns - 1;
   Grid1.SetContent(std::move(table));
   Grid1.SetCurrent(1, 1);
+  // The cells are made current one after the other as they are filled, and the last one stays so.
+  Grid1.SetCurrent(lastRow, lastColumn);
 }
 
 // As large as the table, if the screen has room for it.
