@@ -33,7 +33,7 @@ TEST_F(Viewers, ShowATableAtItsSize) {
   EXPECT_EQ(window.Title(), " Small Table");
   const auto& grid = suite.Get<Grid>("Grid1");
   EXPECT_EQ(grid.Caption(), "Small Table");
-  EXPECT_EQ(grid.CurrentText(), "d");
+  EXPECT_EQ(grid.CurrentText(), "f");  // the last cell that was filled
   // 1200 + 900 + 2 + 1 for the grid, 2 + 480 + 130 around it.
   EXPECT_EQ(window.GetGeometry().width, 2715);
   // 60 + 1 + 3 + 3 * 240 + 3 + 1 for the grid, 435 for caption and frame.

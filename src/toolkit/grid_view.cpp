@@ -210,7 +210,8 @@ class GridView final : public ControlView {
 
   void RefreshContent() override {
     const Table& table = grid_.Content();
-    if (grid_.Version() != shown_) {
+    const bool fresh = grid_.Version() != shown_;
+    if (fresh) {
       shown_ = grid_.Version();
       for (Pane* pane : {&corner_, &top_, &left_, &body_}) pane->Reload(table);
       for (Pane* pane : {&corner_, &left_}) pane->view.setFixedWidth(pane->Width());
@@ -222,7 +223,10 @@ class GridView final : public ControlView {
     Describe(table);
     const QModelIndex current = body_.model.index(grid_.Row() - body_.model.FirstRow(),
                                                   grid_.Column() - body_.model.FirstColumn());
+    // A new table is read from its beginning, wherever its current cell is.
+    body_.view.setAutoScroll(!fresh);
     if (current != body_.view.currentIndex()) body_.view.setCurrentIndex(current);
+    body_.view.setAutoScroll(true);
   }
 
   void Describe(const Table& table) {

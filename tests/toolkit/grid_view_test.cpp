@@ -190,6 +190,9 @@ TEST_F(Tables, HaveACurrentCellToCopy) {
     Press(Body(), Qt::Key_C, modifiers);
     return QGuiApplication::clipboard()->text().toStdString();
   };
+  EXPECT_EQ(copied(Qt::ControlModifier), "r49c5");  // the cell that was filled last
+  EXPECT_EQ(Body().verticalScrollBar()->value(), 0);
+  Press(Body(), Qt::Key_Home, Qt::ControlModifier);
   EXPECT_EQ(copied(Qt::ControlModifier), "r1c1");
   struct Case {
     int key;
