@@ -43,6 +43,15 @@ void CalculatorWindow::LoadsWith(Command& command, const DataFile& data) {
 
 bool CalculatorWindow::IsMetric() const { return GetSession().MetricUnits; }
 
+void CalculatorWindow::ComputesAndMovesOn(std::initializer_list<TextField*> fields,
+                                          const Handler& compute) {
+  for (TextField* field : fields)
+    field->onEnter = [this, compute] {
+      compute();
+      GetSession().SendTab();
+    };
+}
+
 void CalculatorWindow::PassesFocusOn(std::initializer_list<TextField*> fields) {
   for (TextField* field : fields) {
     field->MakeResult();

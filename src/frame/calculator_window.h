@@ -35,6 +35,8 @@ class CalculatorWindow : public Window {
   /// Whether metric units are selected now; captions keep to the units at the window's load.
   bool IsMetric() const;
 
+  /// Enter in these fields computes, and then a simulated Tab moves the focus on.
+  void ComputesAndMovesOn(std::initializer_list<TextField*> fields, const Handler& compute);
   /// A result field that passes the focus on as soon as it gets it.
   void PassesFocusOn(std::initializer_list<TextField*> fields);
   /// Fields whose whole text is selected when they get the focus.

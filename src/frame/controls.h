@@ -217,6 +217,10 @@ class TextField : public CaptionedControl {
   /// Code writes the text. A text that is there already is no write.
   void SetText(std::string text);
   void Show(Double value, Mask mask) { SetText(Format(value, mask)); }
+  /// A value that may never have been set: see FormatUnlessUnset.
+  void ShowUnlessUnset(const std::optional<Double>& value, Mask mask) {
+    SetText(FormatUnlessUnset(value, mask));
+  }
   void Show(Double value) { SetText(PlainText(value)); }
   void Show(Single value) { SetText(PlainText(value)); }
   using Control::Show;

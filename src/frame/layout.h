@@ -21,6 +21,8 @@ struct Layout {
     Grid,     ///< parts are rows, whose parts align in columns
     Frame,    ///< parts inside a frame control with its caption
     Rule,     ///< a line between inputs and results
+    Term,     ///< side by side without gaps: the parts of a formula
+    Fraction, ///< the first part over the second, with a bar between them
     Stretch,  ///< takes the free space
   };
 
@@ -42,6 +44,12 @@ inline Layout Form(std::vector<Layout> fields) {
 }
 inline Layout Cells(std::vector<Layout> rows) {
   return Layout(Layout::Kind::Grid, std::move(rows));
+}
+inline Layout Term(std::vector<Layout> parts) {
+  return Layout(Layout::Kind::Term, std::move(parts));
+}
+inline Layout Fraction(Layout above, Layout below) {
+  return Layout(Layout::Kind::Fraction, {std::move(above), std::move(below)});
 }
 inline Layout Rule() { return Layout(Layout::Kind::Rule); }
 inline Layout Stretch() { return Layout(Layout::Kind::Stretch); }

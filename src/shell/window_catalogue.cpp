@@ -1,14 +1,19 @@
 #include "shell/window_catalogue.h"
 
+#include "electrical/ohms_law.h"
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
+#include "hvac/psychro.h"
+#include "math/triangle.h"
 #include "shell/check_for_updates.h"
 #include "shell/folder_browser.h"
 #include "shell/help.h"
 #include "shell/mainform.h"
 #include "shell/splash.h"
+#include "stress/beams.h"
 
 namespace korvane {
 namespace {
@@ -30,8 +35,16 @@ constexpr WindowUnit kUnits[] = {
     {"DISPLAY2", Make<DISPLAY2>},
     {"Conversion_Factors", Make<Conversion_Factors>},
     {"Page_Setup", Make<Page_Setup>},
+    // Electrical
+    {"OHMS_LAW", Make<OHMS_LAW>},
     // HVAC
     {"FlowCalc", Make<FlowCalc>},
+    {"flow_2", Make<flow_2>},
+    {"Psychro", Make<Psychro>},
+    // Math
+    {"TRIANGLE", Make<TRIANGLE>},
+    // Stress
+    {"beams", Make<beams>},
 };
 
 }  // namespace

@@ -31,6 +31,22 @@ class Arranger {
         captions_ = outer;
         return column;
       }
+      case Layout::Kind::Term: {
+        auto* term = new QHBoxLayout;
+        term->setSpacing(0);
+        return Fill(term, layout, parent);
+      }
+      case Layout::Kind::Fraction: {
+        auto* fraction = new QVBoxLayout;
+        fraction->setSpacing(1);
+        AddCentered(*fraction, layout.parts[0], parent);
+        auto* bar = new QFrame(&parent);
+        bar->setFrameShape(QFrame::HLine);
+        bar->setFrameShadow(QFrame::Plain);
+        fraction->addWidget(bar);
+        AddCentered(*fraction, layout.parts[1], parent);
+        return fraction;
+      }
       default: {
         auto* single = new QVBoxLayout;
         Add(*single, layout, parent);
@@ -62,6 +78,13 @@ class Arranger {
       case Layout::Kind::Rule: box.addWidget(WidgetFor(part, parent)); break;
       default: box.addLayout(Build(part, parent));
     }
+  }
+
+  void AddCentered(QBoxLayout& box, const Layout& part, QWidget& parent) {
+    Add(box, part, parent);
+    box.setAlignment(box.itemAt(box.count() - 1)->layout(), Qt::AlignHCenter);
+    if (QWidget* widget = box.itemAt(box.count() - 1)->widget())
+      box.setAlignment(widget, Qt::AlignHCenter);
   }
 
   QWidget* WidgetFor(const Layout& part, QWidget& parent) {
