@@ -8,6 +8,7 @@
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
 #include "math/triangle.h"
+#include "mechanical/v_belt.h"
 #include "shell/check_for_updates.h"
 #include "shell/folder_browser.h"
 #include "shell/help.h"
@@ -43,6 +44,8 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro", Make<Psychro>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
+    // Mechanical
+    {"V_BELT", Make<V_BELT>},
     // Stress
     {"beams", Make<beams>},
 };

@@ -19,7 +19,7 @@ DATA = ROOT / "data"
 GENERATE = ROOT / "tools" / "tables" / "generate.py"
 
 # Files of records that calculators read themselves, so not laid out for the table viewer.
-RECORDS = {"Conversion_Factors.dat"}
+RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat"}
 
 
 def fields_of(text):
