@@ -24,7 +24,8 @@ std::string Normalised(const std::string& text) {
 }  // namespace
 
 bool DelimitedReader::AtEnd() {
-  return rest_.find_first_not_of(kBlanksAndLineEnds) == std::string_view::npos;
+  return !afterComma_ &&
+         rest_.find_first_not_of(kBlanksAndLineEnds) == std::string_view::npos;
 }
 
 std::string DelimitedReader::Text() { return Next().text; }
@@ -38,6 +39,7 @@ Double DelimitedReader::Number() { return Strict(Next().text); }
 
 std::string DelimitedReader::Line() {
   if (rest_.empty()) failures::InputPastEnd();
+  afterComma_ = false;
   const auto end = std::min(rest_.find_first_of(kLineEnds), rest_.size());
   std::string line(rest_.substr(0, end));
   rest_.remove_prefix(end);
@@ -47,9 +49,12 @@ std::string DelimitedReader::Line() {
 
 DelimitedReader::Field DelimitedReader::Next() {
   if (AtEnd()) failures::InputPastEnd();
-  rest_.remove_prefix(rest_.find_first_not_of(kBlanksAndLineEnds));
+  if (afterComma_)
+    SkipBlanks();
+  else
+    rest_.remove_prefix(rest_.find_first_not_of(kBlanksAndLineEnds));
   Field field;
-  if (rest_.front() == '"') {
+  if (rest_.starts_with('"')) {
     rest_.remove_prefix(1);
     const auto end = std::min(rest_.find('"'), rest_.size());
     field = {std::string(rest_.substr(0, end)), true};
@@ -60,7 +65,8 @@ DelimitedReader::Field DelimitedReader::Next() {
     field.text = rest_.substr(0, end);
     rest_.remove_prefix(end);
   }
-  if (!rest_.empty() && rest_.front() == ',')
+  afterComma_ = rest_.starts_with(',');
+  if (afterComma_)
     rest_.remove_prefix(1);
   else
     SkipLineEnd();
@@ -72,8 +78,8 @@ void DelimitedReader::SkipBlanks() {
 }
 
 void DelimitedReader::SkipLineEnd() {
-  if (!rest_.empty() && rest_.front() == '\r') rest_.remove_prefix(1);
-  if (!rest_.empty() && rest_.front() == '\n') rest_.remove_prefix(1);
+  if (rest_.starts_with('\r')) rest_.remove_prefix(1);
+  if (rest_.starts_with('\n')) rest_.remove_prefix(1);
 }
 
 }  // namespace korvane

@@ -8,15 +8,16 @@
 
 namespace korvane {
 
-/// Gives the fields of a text one after the other. Blanks and line ends ahead of a field are
-/// skipped, so that only the order of fields counts, not their lines; a field ends at a comma or a
-/// line end; one that begins with a double quote runs to the next double quote.
+/// Gives the fields of a text one after the other. A field ends at a comma or a line end, so that only the
+/// order of fields counts, not their lines; blanks ahead of it and empty lines are skipped; one that begins
+/// with a double quote runs to the next double quote. A comma with nothing behind it on its line has an
+/// empty field behind it.
 class DelimitedReader {
  public:
   /// The text must outlive the reader.
   explicit DelimitedReader(std::string_view text) : rest_(text) {}
 
-  /// Nothing but blanks and line ends is left.
+  /// No field is left.
   bool AtEnd();
 
   /// The next field as it stands. Fails with "Input past end of file" at the end, as all do.
@@ -42,6 +43,7 @@ class DelimitedReader {
   void SkipLineEnd();
 
   std::string_view rest_;
+  bool afterComma_ = false;
 };
 
 }  // namespace korvane

@@ -124,7 +124,7 @@ class V_BELT final : public CalculatorWindow {
   TextField TXT_BELT_NUMBER{*this, "TXT_BELT_NUMBER", "Belt Number", " A 30"};
   TextField TXT_BELT_PART_NUMBER{*this, "TXT_BELT_PART_NUMBER", "BELT PART #"};
   TextField TXT_HP_CORR{*this, "TXT_HP_CORR", "Max HP / Belt"};
-  TextField txt_loading{*this, "txt_loading", "", "CHECKING COMBINATIONS"};
+  TextField txt_loading{*this, "txt_loading", "Progress", "CHECKING COMBINATIONS"};
   TextField Text1{*this, "Text1", "Candidates", " RPM    Driver PD    Driven PD"};
   ListBox List1{*this, "List1", "Combinations"};
 

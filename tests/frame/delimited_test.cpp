@@ -32,11 +32,12 @@ TEST(Delimited, Fields) {
       {"Dia,1\r\nArea,2\r\n", {"Dia", "1", "Area", "2"}},
       {"Dia,1\nArea,2", {"Dia", "1", "Area", "2"}},
       {"Dia,1\rArea,2\r", {"Dia", "1", "Area", "2"}},
-      // Order alone counts: a missing value takes the next line's label.
-      {"Dia,\r\nArea,2\r\n", {"Dia", "Area", "2"}},
+      // A comma with nothing behind it has an empty field behind it; empty lines have none.
+      {"Dia,\r\nArea,2\r\n", {"Dia", "", "Area", "2"}},
+      {"Dia, \n\nArea,", {"Dia", "", "Area", ""}},
       {"a,b\r\n\r\n\r\nc", {"a", "b", "c"}},
       {"a,,b", {"a", "", "b"}},
-      {",", {""}},
+      {",", {"", ""}},
       {"  a b  , c", {"a b  ", "c"}},
       {"Wheel, 3 \r\nNext,4", {"Wheel", "3", "Next", "4"}},
       {"\"a,b\"\r\nc", {"a,b", "c"}},

@@ -119,9 +119,9 @@ constexpr LoadCase kLoads[] = {
     {"CommaInAValueShifts",
      "ORIFICE FLOW\r\nDia,1,000\r\nArea,2\r\nPressure,4\r\nFlow,1\r\nEdge Type,Ideal\r\nDc,1\r\n",
      kFault, "1", "Area", "Pressure", "Flow", "SharpEdge", "Dc"},
-    {"MissingValueShifts",
-     "ORIFICE FLOW\r\nDia,\r\nArea,2\r\nPressure,4\r\nFlow,1\r\nEdge Type,Ideal\r\nDc,1\r\n",
-     kFault, "Area", "Pressure", "Flow", "Edge Type", "SharpEdge", "0.6"},
+    {"EmptyValueStaysEmpty",
+     "ORIFICE FLOW\r\nDia,\r\nArea,2\r\nPressure,4\r\nFlow,1\r\nEdge Type,\r\nDc,1\r\n", nullptr,
+     "", "2", "4", "111.25", "SharpEdge", "1"},
     {"TextLandsAsItStands",
      "ORIFICE FLOW\r\nDia,\"1.50\"\r\nArea,two\r\nPressure,\xE9\r\nFlow,1e999\r\n"
      "Edge Type,none\r\nDc,1\r\n",
