@@ -88,22 +88,22 @@ Layout OHMS_LAW::Arrangement() {
   };
   const auto quantity = [](Label& letter, Label& unit) { return Row({letter, unit, Stretch()}); };
   const auto squared = [](Label& letter, Label& two) { return Term({letter, two}); };
-  return Column(
-      {lbl_select,
-       Cells({Row({quantity(txt_e, unit_e), quantity(txt_i, unit_i), quantity(txt_r, unit_r),
-                   quantity(txt_w, unit_w)}),
-              Row({formula("E = ", Label1), formula("I = ", Fraction(Label6, Label7)),
-                   formula("R = ", Fraction(Label26, Label27)), formula("W = ", Label5)}),
-              Row({formula("E = ", Fraction(Label2, Label3)),
-                   formula("I = ", Fraction(Label10, Label11)),
-                   formula("R = ", Fraction(squared(Label14, Label21), Label15)),
-                   formula("W = ", Fraction(squared(Label12, Label22), Label13))}),
-              Row({formula("E = ", Label4),
-                   formula("I = ", Term({sign("\u221A"), Fraction(Label8, Label9)})),
-                   formula("R = ", Fraction(Label16, squared(Label17, Label20))),
-                   formula("W = ", Term({Label23, Label24, Label25}))})}),
-       Rule(), Row({Column({Form({Text1, Text2, Text3})}), Column({Form({Text4}), Stretch()})}),
-       Row({btn_calc, Stretch(), Command2, btn_print, btn_help, btn_exit})});
+  return Column({lbl_select,
+                 Cells({Row({quantity(txt_e, unit_e), quantity(txt_i, unit_i),
+                             quantity(txt_r, unit_r), quantity(txt_w, unit_w)}),
+                        Row({formula("E = ", Label1), formula("I = ", Fraction(Label6, Label7)),
+                             formula("R = ", Fraction(Label26, Label27)), formula("W = ", Label5)}),
+                        Row({formula("E = ", Fraction(Label2, Label3)),
+                             formula("I = ", Fraction(Label10, Label11)),
+                             formula("R = ", Fraction(squared(Label14, Label21), Label15)),
+                             formula("W = ", Fraction(squared(Label12, Label22), Label13))}),
+                        Row({formula("E = ", Label4),
+                             formula("I = ", Term({sign("\u221A"), Fraction(Label8, Label9)})),
+                             formula("R = ", Fraction(Label16, squared(Label17, Label20))),
+                             formula("W = ", Term({Label23, Label24, Label25}))})}),
+                 Rule(),
+                 Row({Column({Form({Text1, Text2, Text3})}), Column({Form({Text4}), Stretch()})}),
+                 Row({btn_calc, Stretch(), Command2, btn_print, btn_help, btn_exit})});
 }
 
 void OHMS_LAW::Load() {

@@ -75,9 +75,9 @@ class OHMS_LAW final : public CalculatorWindow {
   std::string Solved;  // the quantity to solve; empty until the first choice
 };
 
-/// The wanted quantity ("E", "I", "R", "W") from the three others in the order of their fields: E I R W
-/// without the wanted one. Of three rules each applies where both its inputs are above 0, and the last
-/// one that does counts; nothing where none does.
+/// The wanted quantity ("E", "I", "R", "W") from the three others in the order of their fields: E I
+/// R W without the wanted one. Of three rules each applies where both its inputs are above 0, and
+/// the last one that does counts; nothing where none does.
 std::optional<Double> SolveOhmsLaw(const std::string& wanted, Single p, Single q, Single r);
 
 }  // namespace korvane

@@ -8,10 +8,10 @@ namespace {
 constexpr double kCubicFeetPerGallon = 0.1336805555556;
 constexpr double kLitersPerGallon = 3.785411784;
 constexpr double kMetersPerFoot = 0.3048;
-constexpr double kGravity = 32.17;             // ft/s2
-constexpr double kWater = 62.42;               // lb/ft3
+constexpr double kGravity = 32.17;                // ft/s2
+constexpr double kWater = 62.42;                  // lb/ft3
 constexpr double kReynsPerCentipoise = 2.089e-5;  // lbf-sec/ft2
-constexpr double kMinorLosses = 1.5;           // of entrance and exit, in pipe diameters
+constexpr double kMinorLosses = 1.5;              // of entrance and exit, in pipe diameters
 
 const Single kRoughest = 0.1;
 const Single kSmoothest = 1e-6;
@@ -35,9 +35,9 @@ Double Friction(Double Re, Double rough) {
 }
 
 Double SayboltFromCentistokes(Double v) {
-  const Double at100F = 4.6324 * v + (1 + 0.03264 * v) * 100000 /
-                                         (1.646 * Power(v, 3) + 23.97 * Power(v, 2) + 262.7 * v +
-                                          3930.2);
+  const Double at100F =
+      4.6324 * v +
+      (1 + 0.03264 * v) * 100000 / (1.646 * Power(v, 3) + 23.97 * Power(v, 2) + 262.7 * v + 3930.2);
   return (1 + (68 - 100) * 6.1e-5) * at100F;
 }
 
@@ -375,8 +375,8 @@ Single flow_2::Compared() const {
   return head * gpm * rho / 247000;
 }
 
-// Three passes of ever smaller steps, each from one step before the flow at which the one before went
-// beyond the target; from 0 if it never did.
+// Three passes of ever smaller steps, each from one step before the flow at which the one before
+// went beyond the target; from 0 if it never did.
 void flow_2::FindFlow() {
   struct Searching {
     bool& flag;

@@ -10,8 +10,8 @@
 
 namespace korvane {
 
-/// Darcy friction factor: 64 / Re below 2300, above it six rounds of Colebrook's relation from 0.01 for the
-/// relative roughness, blended with the former up to 5500 by a weight that is 1 at 5000.
+/// Darcy friction factor: 64 / Re below 2300, above it six rounds of Colebrook's relation from 0.01
+/// for the relative roughness, blended with the former up to 5500 by a weight that is 1 at 5000.
 Double Friction(Double Re, Double rough);
 
 /// Saybolt viscosity at 68 F in SSU, from centistokes.
@@ -78,9 +78,10 @@ class flow_2 final : public CalculatorWindow {
                        UnitText{"Total Straight Length (ft)", "Total Straight Length (m)"}, "100"};
   TextField txt_gpm{*this, "txt_gpm", UnitText{"Flow Rate (gal/min)", "Flow Rate (l/sec)"}};
   TextField txt_cfm{*this, "txt_cfm", UnitText{"Flow Rate (ft3/min)", "Flow Rate (m3/h)"}};
-  TextField txt_Z{*this, "txt_Z",
-                  UnitText{"Change in Elevation (ft)", "Change in Elevation (m)"}, "0"};
-  TextField txt_density{*this, "txt_density",
+  TextField txt_Z{*this, "txt_Z", UnitText{"Change in Elevation (ft)", "Change in Elevation (m)"},
+                  "0"};
+  TextField txt_density{*this,
+                        "txt_density",
                         UnitText{"Fluid Density (lb/ft3)", "Fluid Density (kg/m3)"},
                         {"62.42", "1000"}};
   TextField txt_centipoise{*this, "txt_centipoise", "Viscosity (centipoise)", "1"};

@@ -30,8 +30,7 @@ void SidesFromAngles(Triangle& t) {
 Drawing Sketch() {
   Drawing drawing{220, 130, {}};
   const Point left{20, 110}, right{200, 110}, top{130, 20};
-  drawing.shapes.emplace_back(
-      Path{{left, right, top, left}, Ink::Line, Ink::Body, 1.5});
+  drawing.shapes.emplace_back(Path{{left, right, top, left}, Ink::Line, Ink::Body, 1.5});
   const auto arc = [&drawing](Point center, double from, double to) {
     drawing.shapes.emplace_back(Path{Arc(center, 22, from, to), Ink::Accent, {}, 1});
   };
@@ -82,8 +81,8 @@ void SolveTwoSidesAndAdjacentAngle(Triangle& t) {
   t.a = t.c * Cos(t.beta / kDegrees) + t.b * Cos(t.gamma / kDegrees);
 }
 
-/// What is known, by the indices of A, B, C, ALPHA, BETA, GAMMA, and what is solved, in the order in
-/// which it is written.
+/// What is known, by the indices of A, B, C, ALPHA, BETA, GAMMA, and what is solved, in the order
+/// in which it is written.
 struct TRIANGLE::KnownSet {
   const char* text;
   std::array<std::size_t, 3> known;
@@ -103,7 +102,8 @@ TRIANGLE::TRIANGLE(Session& session)
     : CalculatorWindow(session, {.name = "TRIANGLE",
                                  .title = "Triangle Solutions",
                                  .helpPage = "math_triangle_solutions.html"}),
-      picture_(*this, "", "Triangle with its sides A, B, C and the angles opposite to them", Sketch()) {
+      picture_(*this, "", "Triangle with its sides A, B, C and the angles opposite to them",
+               Sketch()) {
   for (const KnownSet& set : kKnownSets) Combo1.AddItem(set.text);
   Combo1.onSelect = [this] { ComboClick(); };
   for (std::size_t i = 0; i < 6; ++i) Field(i).onEnter = [this] { Solve(); };

@@ -17,8 +17,8 @@ constexpr const char* kFrames = "NEMAFRAM.DAT";
 constexpr Color kTooClose = Color::Bgr(0x8080FF);
 constexpr Color kClose = Color::Bgr(0xC0C0FF);
 
-// The sizes of shafts are never told, so that of all sheaves those without a bore of their own, or with
-// the bore of a bushing, pass.
+// The sizes of shafts are never told, so that of all sheaves those without a bore of their own, or
+// with the bore of a bushing, pass.
 constexpr const char* kShaftBore = "";
 constexpr const char* kBushed = "H";
 
@@ -56,7 +56,9 @@ Drawing Padlock(bool locked) {
   }
   drawing.shapes.emplace_back(Path{shackle, locked ? Ink::Accent : Ink::Line, {}, 2});
   drawing.shapes.emplace_back(Path{{{5, 16}, {23, 16}, {23, 28}, {5, 28}, {5, 16}},
-                                   locked ? Ink::Accent : Ink::Line, Ink::Body, 1.5});
+                                   locked ? Ink::Accent : Ink::Line,
+                                   Ink::Body,
+                                   1.5});
   drawing.shapes.emplace_back(Path{Arc({14, 21}, 1.5, 0, 360), Ink::Line, {}, 1.2});
   drawing.shapes.emplace_back(Path{{{14, 22.5}, {14, 25.5}}, Ink::Line, {}, 1.2});
   return drawing;
@@ -78,8 +80,8 @@ Drawing VariablePitch() {
                                        Ink::Body});
     drawing.shapes.emplace_back(
         Path{{{45 + side * 38, 30}, {45 + side * 24, 30}}, Ink::Accent, {}, 1.5});
-    drawing.shapes.emplace_back(Path{{{45 + side * 30, 26}, {45 + side * 24, 30}, {45 + side * 30, 34}},
-                                     Ink::Accent, {}, 1.5});
+    drawing.shapes.emplace_back(Path{
+        {{45 + side * 30, 26}, {45 + side * 24, 30}, {45 + side * 30, 34}}, Ink::Accent, {}, 1.5});
   }
   drawing.shapes.emplace_back(
       Path{{{39, 8}, {51, 8}, {48.5, 14}, {41.5, 14}, {39, 8}}, Ink::Accent, Ink::Accent});
@@ -116,8 +118,8 @@ BeltData ParseBeltData(std::string_view bytes, std::string_view section) {
   BeltData belt;
   while (!reader.AtEnd()) {
     const std::string name = reader.Text();
-    for (Double* coefficient : {&belt.c1, &belt.c2, &belt.c3, &belt.c4, &belt.k4, &belt.k3,
-                                &belt.k2, &belt.k1, &belt.k0})
+    for (Double* coefficient :
+         {&belt.c1, &belt.c2, &belt.c3, &belt.c4, &belt.k4, &belt.k3, &belt.k2, &belt.k1, &belt.k0})
       *coefficient = reader.Number();
     if (name == section) break;
   }
@@ -127,8 +129,8 @@ BeltData ParseBeltData(std::string_view bytes, std::string_view section) {
 Double BeltPower(const BeltData& belt, std::string_view section, Single larger, Single smaller,
                  Single centerDistance, Single rpm) {
   const Double x = (larger - smaller) / centerDistance;
-  const Double arc = 1 - 0.1243 * x - 0.0583 * Power(x, 2) + 0.0388 * Power(x, 3) -
-                     0.032 * Power(x, 4);
+  const Double arc =
+      1 - 0.1243 * x - 0.0583 * Power(x, 2) + 0.0388 * Power(x, 3) - 0.032 * Power(x, 4);
 
   const Double dHi = larger + EffectiveAddition(section);
   const Double d = smaller + EffectiveAddition(section);
@@ -163,8 +165,8 @@ V_BELT::V_BELT(Session& session)
                        {{OPT_DRIVER_FIXED, "Fixed"}, {OPT_DRIVER_VARIABLE, "Variable"}}),
             {"Driven type", [] { return std::string("Fixed"); }, [](const std::string&) {}},
             TextRecord("Driver rpm", TXT_DRIVER_RPM),
-            // The window has no selector of shaft sizes: saving and loading end here with the message
-            // of a failure.
+            // The window has no selector of shaft sizes: saving and loading end here with the
+            // message of a failure.
             {"Driver shaft dia", []() -> std::string { failures::ObjectNotSet(); },
              [](const std::string&) { failures::ObjectNotSet(); }}},
            [this] {
@@ -236,25 +238,24 @@ V_BELT::V_BELT(Session& session)
 }
 
 Layout V_BELT::Arrangement() {
-  return Column(
-      {Row({Form({CMB_SECTION}), txt_loading}),
-       Row({Column({Box(driver_, {Row({OPT_DRIVER_FIXED, OPT_DRIVER_VARIABLE, Line1}),
-                                  Form({TXT_DRIVER_RPM, CMB_DRIVER_PD, TXT_DRIVER_OD,
-                                        TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN, txt_max_rpm,
-                                        TXT_MIN_RPM})})}),
-            Column({Box(driven_, {Form({TXT_DRIVEN_RPM, CMB_DRIVEN_PD, TXT_DRIVEN_OD,
-                                        TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN})}),
-                    lock_hint_,
-                    Row({pic_driver_locked, pic_driver_unlocked, Stretch(), pic_driven_locked,
-                         pic_driven_unlocked}),
-                    Stretch()}),
-            Column({Form({TXT_BEST_MATCH_RPM, TXT_SPEED_RATIO, CMB_MOTOR_FRAME_SIZE,
-                          TXT_CENTER_DIST, txt_belt_length, txt_clearance, TXT_BELT_NUMBER,
-                          TXT_BELT_PART_NUMBER, TXT_HP_CORR}),
-                    Stretch()}),
-            Column({Text1, List1})}),
-       Row({BTN_SELECT_SHEAVES, Command1, BTN_CALCULATE, BTN_SHOW, Command4, Stretch(), Command5,
-            Command6, BTN_PRINT_FORM, Command2, BTN_QUIT})});
+  return Column({Row({Form({CMB_SECTION}), txt_loading}),
+                 Row({Column({Box(driver_, {Row({OPT_DRIVER_FIXED, OPT_DRIVER_VARIABLE, Line1}),
+                                            Form({TXT_DRIVER_RPM, CMB_DRIVER_PD, TXT_DRIVER_OD,
+                                                  TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN,
+                                                  txt_max_rpm, TXT_MIN_RPM})})}),
+                      Column({Box(driven_, {Form({TXT_DRIVEN_RPM, CMB_DRIVEN_PD, TXT_DRIVEN_OD,
+                                                  TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN})}),
+                              lock_hint_,
+                              Row({pic_driver_locked, pic_driver_unlocked, Stretch(),
+                                   pic_driven_locked, pic_driven_unlocked}),
+                              Stretch()}),
+                      Column({Form({TXT_BEST_MATCH_RPM, TXT_SPEED_RATIO, CMB_MOTOR_FRAME_SIZE,
+                                    TXT_CENTER_DIST, txt_belt_length, txt_clearance,
+                                    TXT_BELT_NUMBER, TXT_BELT_PART_NUMBER, TXT_HP_CORR}),
+                              Stretch()}),
+                      Column({Text1, List1})}),
+                 Row({BTN_SELECT_SHEAVES, Command1, BTN_CALCULATE, BTN_SHOW, Command4, Stretch(),
+                      Command5, Command6, BTN_PRINT_FORM, Command2, BTN_QUIT})});
 }
 
 void V_BELT::Load() {
@@ -263,8 +264,8 @@ void V_BELT::Load() {
   sheaves_ = ParseSheaves(GetSession().ReadTable("SHEAVES.dat"));
   SheaveCount = static_cast<short>(sheaves_.size() - 1);
   CMB_SECTION.SetText("A");
-  for (Control* variable :
-       std::initializer_list<Control*>{&Line1, &LBL_MIN_RPM, &LBL_MAX_RPM, &TXT_MIN_RPM, &txt_max_rpm})
+  for (Control* variable : std::initializer_list<Control*>{&Line1, &LBL_MIN_RPM, &LBL_MAX_RPM,
+                                                           &TXT_MIN_RPM, &txt_max_rpm})
     variable->Hide();
   RefreshSheaveLists();
   KeepList = false;
@@ -296,7 +297,8 @@ void V_BELT::RefreshSheaveLists() {
     if (row.type == DriverType) drivers.push_back(PlainText(row.pd));
     if (row.type == "FIXED") drivens.push_back(PlainText(row.pd));
   }
-  for (const auto& [combo, items] : {std::pair{&CMB_DRIVER_PD, &drivers}, {&CMB_DRIVEN_PD, &drivens}}) {
+  for (const auto& [combo, items] :
+       {std::pair{&CMB_DRIVER_PD, &drivers}, {&CMB_DRIVEN_PD, &drivens}}) {
     combo->SetItems(*items);
     if (!items->empty()) combo->Select(static_cast<int>(items->size()) - 1);
   }
@@ -306,8 +308,8 @@ void V_BELT::RefreshSheaveLists() {
 
 void V_BELT::ChooseDriverType(const char* type, bool variable) {
   DriverType = type;
-  for (Control* control :
-       std::initializer_list<Control*>{&Line1, &LBL_MIN_RPM, &LBL_MAX_RPM, &TXT_MIN_RPM, &txt_max_rpm})
+  for (Control* control : std::initializer_list<Control*>{&Line1, &LBL_MIN_RPM, &LBL_MAX_RPM,
+                                                          &TXT_MIN_RPM, &txt_max_rpm})
     control->SetVisible(variable);
   RefreshSheaveLists();
   SelectSheaves();
@@ -390,7 +392,8 @@ void V_BELT::SelectSheaves() {
   } else {
     const bool free = DriverLock == 0 && DrivenLock == 0;
     everyPassing(DriverType, DriverLock, [&](short driver) {
-      everyPassing("FIXED", DrivenLock, [&](short driven) { Consider(driver, driven, best, free); });
+      everyPassing("FIXED", DrivenLock,
+                   [&](short driven) { Consider(driver, driven, best, free); });
       GetSession().RunPendingMessages();
     });
     if (best < kNothingFound) SelectChosenRow();
@@ -398,8 +401,10 @@ void V_BELT::SelectSheaves() {
 
   TXT_BEST_MATCH_RPM.Show(BestRpm, "0");
   if (best < kNothingFound) {
-    ShowSide(DriverRow, CMB_DRIVER_PD, TXT_DRIVER_OD, TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN);
-    ShowSide(DrivenRow, CMB_DRIVEN_PD, TXT_DRIVEN_OD, TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN);
+    ShowSide(DriverRow, CMB_DRIVER_PD, TXT_DRIVER_OD, TXT_DRIVER_PART_NUMBER,
+             TXT_DRIVER_BUSHING_PN);
+    ShowSide(DrivenRow, CMB_DRIVEN_PD, TXT_DRIVEN_OD, TXT_DRIVEN_PART_NUMBER,
+             TXT_DRIVEN_BUSHING_PN);
   } else {
     EmptySides();
   }
@@ -474,7 +479,8 @@ void V_BELT::EmptySides() {
   CMB_DRIVEN_PD.SetText("");
 }
 
-// The shortest drive of good practice: at equal sheaves the centre distance is twice their diameter.
+// The shortest drive of good practice: at equal sheaves the centre distance is twice their
+// diameter.
 void V_BELT::PlaceShafts() {
   const Single larger = std::max(At(DriverRow).outside, At(DrivenRow).outside);
   const Single smaller = std::min(At(DriverRow).outside, At(DrivenRow).outside);
@@ -487,9 +493,9 @@ void V_BELT::MeasureBelt() {
   if (distance <= 0 || DriverRow == 0) return;
   const Single driver = At(DriverRow).outside;
   const Single driven = At(DrivenRow).outside;
-  txt_belt_length.Show((Power(driver - driven, 2) / (4 * distance)) +
-                           (1.57 * (driver + driven) + 2 * distance),
-                       "0.000");
+  txt_belt_length.Show(
+      (Power(driver - driven, 2) / (4 * distance)) + (1.57 * (driver + driven) + 2 * distance),
+      "0.000");
   const Single clearance = (distance - driver / 2) - driven / 2;
   txt_clearance.Show(clearance, "0.000");
   txt_clearance.SetBack(clearance <= 0.5  ? kTooClose
@@ -508,8 +514,8 @@ void V_BELT::RateBelt() {
   const Single driver = ToNumber(CMB_DRIVER_PD);
   const Single driven = ToNumber(CMB_DRIVEN_PD);
   if (distance <= 0 || driver <= 0 || driven <= 0) return;
-  const Single fastest = std::max(
-      {ToNumber(TXT_DRIVER_RPM), ToNumber(TXT_DRIVEN_RPM), ToNumber(txt_max_rpm)});
+  const Single fastest =
+      std::max({ToNumber(TXT_DRIVER_RPM), ToNumber(TXT_DRIVEN_RPM), ToNumber(txt_max_rpm)});
   const BeltData belt = ParseBeltData(GetSession().ReadTable("BELTDATA.DAT"), Section);
   const Double power = BeltPower(belt, Section, std::max(driver, driven), std::min(driver, driven),
                                  distance, fastest);

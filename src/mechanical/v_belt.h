@@ -1,5 +1,5 @@
-// V-belt drives: a pair of stock sheaves whose driven speed comes closest to the one wanted, its belt,
-// and the power that one belt carries. Inches, rpm and horsepower in both unit systems.
+// V-belt drives: a pair of stock sheaves whose driven speed comes closest to the one wanted, its
+// belt, and the power that one belt carries. Inches, rpm and horsepower in both unit systems.
 #pragma once
 
 #include <string>
@@ -16,15 +16,15 @@ struct Sheave {
   std::string section;  ///< of the belt
   Single pdMin;
   Single pdMax;
-  Single outside;       ///< diameter
-  std::string bore;     ///< "H" for a sheave bored for a bushing
+  Single outside;    ///< diameter
+  std::string bore;  ///< "H" for a sheave bored for a bushing
   std::string bushing;
   std::string partNumber;
-  Single pd;            ///< the mean pitch diameter
+  Single pd;  ///< the mean pitch diameter
 };
 
-/// Rows from 1; the one at 0 is empty. The first two lines of the file are skipped. More than 250 rows fail
-/// with "Subscript out of range".
+/// Rows from 1; the one at 0 is empty. The first two lines of the file are skipped. More than 250
+/// rows fail with "Subscript out of range".
 std::vector<Sheave> ParseSheaves(std::string_view bytes);
 
 /// Coefficients of the rating formula for a belt section.

@@ -4,8 +4,8 @@
 
 namespace korvane {
 
-/// Factors of deflection and moment for a beam type and a load type; a torque at the support of W L over
-/// the divisor, where there is one.
+/// Factors of deflection and moment for a beam type and a load type; a torque at the support of W L
+/// over the divisor, where there is one.
 struct beams::Case {
   const char* code;
   double deflection;
