@@ -64,7 +64,7 @@ void Psychro::Load() {
 
 // A dew point on the screen is held, and the relative humidity moves.
 void Psychro::TakeDryBulb() {
-  if (ToNumber(DewPointF) != 0) InputMode = "D";
+  if (Strict(DewPointF) != 0) InputMode = "D";
   Recalculate();
 }
 
@@ -88,7 +88,7 @@ void Psychro::Recalculate() {
 }
 
 void Psychro::DewPointFromHumidity() {
-  if (ToNumber(rh) == 0) rh.Show(Double(1e-99));  // keeps the logarithm finite
+  if (Strict(rh) == 0) rh.Show(Double(1e-99));  // keeps the logarithm finite
   const Double x = Ln(Strict(rh) / 100);
   const Double dryBulb = Strict(DryBulbC);
   const Double h = x / kA + dryBulb / (dryBulb + kB);
