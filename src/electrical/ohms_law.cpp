@@ -138,11 +138,14 @@ void OHMS_LAW::ChooseQuantity(const std::string& quantity) {
 }
 
 void OHMS_LAW::ShowInputs(const TextField& first, const TextField& second) {
-  for (TextField* field : {&Text1, &Text2, &Text3}) {
-    const bool shown = field == &first || field == &second;
-    field->CaptionBeside().SetVisible(shown);
-    field->SetVisible(shown);
-  }
+  const auto isShown = [&](const TextField* field) { return field == &first || field == &second; };
+  // Shown before others hide, so that the focus of a field that hides finds its neighbour there.
+  for (const bool shows : {true, false})
+    for (TextField* field : {&Text1, &Text2, &Text3})
+      if (isShown(field) == shows) {
+        field->CaptionBeside().SetVisible(shows);
+        field->SetVisible(shows);
+      }
 }
 
 void OHMS_LAW::FocusInput() {
