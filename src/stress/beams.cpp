@@ -80,8 +80,7 @@ void beams::FollowBeamType() {
   for (Control* control : std::initializer_list<Control*>{&lbl_torque, &TORQUE, &btn_torque_copy})
     control->SetVisible(free);
   conc.SetCaption(free ? "Concentrated at Free End" : "Concentrated at Center");
-  lbl_deflection.SetCaption(std::string("Deflection at ") + (free ? "Free End" : "Center") +
-                            (IsMetric() ? " (mm)" : " (in)"));
+  lbl_deflection.SetCaption(std::string("Deflection at ") + (free ? "Free End" : "Center") + unit_);
 }
 
 // lb, in and psi are consistent, and so are N, mm and MPa: the formulas need no factor.

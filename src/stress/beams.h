@@ -51,6 +51,7 @@ class beams final : public CalculatorWindow {
   Command Command2{*this, "Command2", "Help"};
   Command Command3{*this, "Command3", "Exit"};
 
+  const char* const unit_ = IsMetric() ? " (mm)" : " (in)";  // of the deflection, as at the load
   std::string CaseCode = "SIMPUNIF";  // a record of the case; nothing reads it
   DataFile file;
 };
