@@ -264,7 +264,6 @@ void flow_2::FromKinematicViscosity() {
 // ---- Solving ----
 
 void flow_2::Solve() {
-  if (searching_) return;
   for (const char* name : {"txt_gvalves", "txt_elbows90", "txt_elbows45", "txt_bvalves"})
     ToInteger16(ToNumber(Count(name)));  // more fittings than 16 bits overflow
 
@@ -376,29 +375,20 @@ Single flow_2::Compared() const {
 }
 
 // Three passes of ever smaller steps, each from one step before the flow at which the one before
-// went beyond the target; from 0 if it never did.
+// went beyond the target. One that never did leaves the next one to start from 0, where the
+// friction factor fails; so a search takes some 1200 steps at most.
 void flow_2::FindFlow() {
-  struct Searching {
-    bool& flag;
-    explicit Searching(bool& f) : flag(f) { flag = true; }
-    ~Searching() { flag = false; }
-  } searching(searching_);
-  const Hourglass hourglass(GetSession().GetPlatform());
   const Single target = Target();
   Single start = 1;
   for (const double size : {1.0, 0.01, 0.0001}) {
     const Single step = size;
     Single next = 0;
-    int rounds = 0;
     for (gpm = start; gpm <= kSearchEnd; gpm += step) {
       FlowState();
       if (Compared() > target) {
         next = gpm - size;
         break;
       }
-      constexpr int roundsPerLook = 4096;
-      if (++rounds % roundsPerLook == 0) GetSession().RunPendingMessages();
-      if (!IsShown()) return;
     }
     start = next;
   }

@@ -115,7 +115,6 @@ class flow_2 final : public CalculatorWindow {
   Command btn_exit{*this, "btn_exit", "Exit"};
 
   std::string Mode;  // the field last confirmed with Enter
-  bool searching_ = false;
   Single D, Dft, L, Z, gpm, cfm, rho, cp, SSU, SG, head, hp, LD, Ltot;
   Double nu, Re, f, V, rough;
   DataFile file;
