@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 #include <set>
 
 #include "support/scripted_session.h"
@@ -86,6 +87,15 @@ bool NeedsCaption(const Control& control) {
   }
 }
 
+/// The caption of the frame that each control stands in, where it stands in one.
+void FindFrames(const Layout& layout, const std::string& frame,
+                std::map<const Control*, std::string>& frames) {
+  const bool isFrame = layout.kind == Layout::Kind::Frame;
+  if (layout.control != nullptr && !isFrame) frames[layout.control] = frame;
+  for (const Layout& part : layout.parts)
+    FindFrames(part, isFrame ? layout.control->Caption() : frame, frames);
+}
+
 bool Contains(const Lines& notices, const std::string& start) {
   return std::any_of(notices.begin(), notices.end(),
                      [&start](const std::string& notice) { return notice.starts_with(start); });
@@ -127,7 +137,9 @@ class Sweep : public ::testing::TestWithParam<Swept> {
   }
 
   void LooksRight(const Window& window) {
-    std::set<std::string> inputs;
+    std::map<const Control*, std::string> frames;
+    FindFrames(window.GetLayout(), "", frames);
+    std::set<std::pair<std::string, std::string>> inputs;
     for (const Control* control : window.Controls()) {
       if (!control->IsVisible() || control->Name().empty()) continue;
       // Ohm's law names its fields once a formula is chosen.
@@ -136,7 +148,7 @@ class Sweep : public ::testing::TestWithParam<Swept> {
         EXPECT_FALSE(control->Caption().empty()) << control->Name() << " has no caption";
       }
       if (IsInput(*control)) {
-        EXPECT_TRUE(inputs.insert(control->Caption()).second)
+        EXPECT_TRUE(inputs.insert({frames[control], control->Caption()}).second)
             << control->Name() << " shares the caption " << control->Caption();
       }
       if (const auto* field = dynamic_cast<const TextField*>(control)) {

@@ -10,8 +10,7 @@ namespace korvane {
 namespace {
 
 constexpr std::size_t kMostRows = 250;
-constexpr int kNothingFound = 1000;  // rpm off the wanted speed
-constexpr int kCandidate = 100;      // rpm off, up to which a pair is listed
+constexpr int kCandidate = 100;  // rpm off, up to which a pair is listed
 constexpr const char* kFrames = "NEMAFRAM.DAT";
 
 constexpr Color kTooClose = Color::Bgr(0x8080FF);
@@ -224,7 +223,6 @@ V_BELT::V_BELT(Session& session)
     Text1.SetVisible(show);
     BTN_SHOW.SetCaption(show ? "Hide Combinations" : "Show Combinations");
   };
-  Command4.SetEnabled(GetSession().FindTable(kFrames).has_value());
   Command4.onClick = [this] {
     GetSession().DataFileName = kFrames;
     GetSession().Show("DISPLAY");
@@ -324,17 +322,15 @@ void V_BELT::ChooseSection() {
 }
 
 void V_BELT::LockDriver() {
-  if (Refilling) return;
   DriverLock = FindRow(ToNumber(CMB_DRIVER_PD), DriverType);
   KeepList = false;
-  SelectSheaves();
+  if (!Refilling) SelectSheaves();
 }
 
 void V_BELT::LockDriven() {
-  if (Refilling) return;
   DrivenLock = FindRow(ToNumber(CMB_DRIVEN_PD), "FIXED");
   KeepList = false;
-  SelectSheaves();
+  if (!Refilling) SelectSheaves();
 }
 
 void V_BELT::AutoSelect() {
@@ -376,40 +372,14 @@ void V_BELT::SelectSheaves() {
   TargetRpm = ToNumber(TXT_DRIVEN_RPM);
   Section = CMB_SECTION.Text();
 
-  Single best = kNothingFound;
-  const auto everyPassing = [this](const std::string& type, short locked, const auto& act) {
-    for (short i = 1; i <= SheaveCount; ++i)
-      if (locked == i || (locked == 0 && Passes(At(i), type))) act(i);
-  };
-  if (DriverLock != 0 && DrivenLock != 0) {
-    if (!KeepList)
-      for (const char* row : {" ", "Both PD's locked in:", " ", "No combinations checked."})
-        List1.AddItem(row);
-    DriverRow = DriverLock;
-    DrivenRow = DrivenLock;
-    BestRpm = RpmOf(DriverRow, DrivenRow);
-    best = 0;
-  } else {
-    const bool free = DriverLock == 0 && DrivenLock == 0;
-    everyPassing(DriverType, DriverLock, [&](short driver) {
-      everyPassing("FIXED", DrivenLock,
-                   [&](short driven) { Consider(driver, driven, best, free); });
-      GetSession().RunPendingMessages();
-    });
-    if (best < kNothingFound) SelectChosenRow();
-  }
-
+  const bool found = DriverLock != 0 && DrivenLock != 0 ? TakeLockedPair() : FindPair();
   TXT_BEST_MATCH_RPM.Show(BestRpm, "0");
-  if (best < kNothingFound) {
-    ShowSide(DriverRow, CMB_DRIVER_PD, TXT_DRIVER_OD, TXT_DRIVER_PART_NUMBER,
-             TXT_DRIVER_BUSHING_PN);
-    ShowSide(DrivenRow, CMB_DRIVEN_PD, TXT_DRIVEN_OD, TXT_DRIVEN_PART_NUMBER,
-             TXT_DRIVEN_BUSHING_PN);
-  } else {
+  if (DriverRow != 0) ShowSpeeds();
+  if (found)
+    FillSides();
+  else
     EmptySides();
-  }
   if (DriverRow != 0) {
-    ShowSpeeds();
     PlaceShafts();
     MeasureBelt();
     NumberBelt();
@@ -418,22 +388,46 @@ void V_BELT::SelectSheaves() {
   txt_loading.Hide();
 }
 
-Single V_BELT::RpmOf(short driver, short driven) const {
-  return (At(driver).pd * DriverRpm) / At(driven).pd;
+bool V_BELT::TakeLockedPair() {
+  if (!KeepList)
+    for (const char* row : {" ", "Both PD's locked in:", " ", "No combinations checked."})
+      List1.AddItem(row);
+  DriverRow = DriverLock;
+  DrivenRow = DrivenLock;
+  BestRpm = RpmOf(DriverRow, DrivenRow);
+  return true;
 }
 
-/// A pair at least as close as the best one so far is the better one: on a tie the later wins.
-void V_BELT::Consider(short driver, short driven, Single& best, bool free) {
-  const Single rpm = RpmOf(driver, driven);
-  const Single diff = Abs(rpm - TargetRpm);
-  if (diff <= best) {
-    best = diff;
-    BestRpm = rpm;
-    DriverRow = driver;
-    DrivenRow = driven;
-    if (free) TXT_BEST_MATCH_RPM.Show(rpm);
-  }
-  if (free ? diff < kCandidate : !KeepList) List1.AddItem(ListRow(driver, driven));
+bool V_BELT::FindPair() {
+  const bool free = DriverLock == 0 && DrivenLock == 0;
+  const Single best =
+      WalkPairs(sheaves_, RowsFor(DriverType, DriverLock), RowsFor("FIXED", DrivenLock), DriverRpm,
+                TargetRpm, [&](const SheavePair& pair, bool closest) {
+                  if (closest) {
+                    BestRpm = pair.rpm;
+                    DriverRow = pair.driver;
+                    DrivenRow = pair.driven;
+                    if (free) TXT_BEST_MATCH_RPM.Show(pair.rpm);
+                  }
+                  if (free ? pair.diff < kCandidate : !KeepList)
+                    List1.AddItem(ListRow(pair.driver, pair.driven));
+                });
+  if (best >= kNothingFound) return false;
+  SelectChosenRow();
+  return true;
+}
+
+/// The locked row, or all that pass.
+std::vector<short> V_BELT::RowsFor(const std::string& type, short locked) const {
+  if (locked != 0) return {locked};
+  std::vector<short> rows;
+  for (short i = 1; i <= SheaveCount; ++i)
+    if (Passes(At(i), type)) rows.push_back(i);
+  return rows;
+}
+
+Single V_BELT::RpmOf(short driver, short driven) const {
+  return (At(driver).pd * DriverRpm) / At(driven).pd;
 }
 
 std::string V_BELT::ListRow(short driver, short driven) const {
@@ -456,6 +450,11 @@ void V_BELT::ShowSpeeds() {
   const Single driven = At(DrivenRow).pdMin;
   txt_max_rpm.Show(At(DriverRow).pdMax * DriverRpm / driven, "0");
   TXT_MIN_RPM.Show(At(DriverRow).pdMin * DriverRpm / driven, "0");
+}
+
+void V_BELT::FillSides() {
+  ShowSide(DriverRow, CMB_DRIVER_PD, TXT_DRIVER_OD, TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN);
+  ShowSide(DrivenRow, CMB_DRIVEN_PD, TXT_DRIVEN_OD, TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN);
 }
 
 void V_BELT::ShowSide(short row, Combo& pd, TextField& outside, TextField& part,

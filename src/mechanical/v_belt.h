@@ -27,6 +27,36 @@ struct Sheave {
 /// rows fail with "Subscript out of range".
 std::vector<Sheave> ParseSheaves(std::string_view bytes);
 
+/// A driver row and a driven row of the catalogue, the driven speed that they give, and how far it
+/// is off the wanted one, both in rpm.
+struct SheavePair {
+  short driver = 0;
+  short driven = 0;
+  Single rpm;
+  Single diff;
+};
+
+constexpr int kNothingFound = 1000;  // rpm off the wanted speed
+
+/// Shows every pair to `see`, and whether it is the closest so far; on a tie it is. How far the
+/// closest is off: kNothingFound or more if none came closer than that.
+template <class See>
+Single WalkPairs(const std::vector<Sheave>& rows, const std::vector<short>& drivers,
+                 const std::vector<short>& drivens, Single driverRpm, Single targetRpm, See see) {
+  const auto pd = [&rows](short row) { return rows[static_cast<std::size_t>(row)].pd; };
+  Single best = kNothingFound;
+  for (const short driver : drivers) {
+    for (const short driven : drivens) {
+      const Single rpm = (pd(driver) * driverRpm) / pd(driven);
+      const Single diff = Abs(rpm - targetRpm);
+      const bool closest = diff <= best;
+      if (closest) best = diff;
+      see(SheavePair{driver, driven, rpm, diff}, closest);
+    }
+  }
+  return best;
+}
+
 /// Coefficients of the rating formula for a belt section.
 struct BeltData {
   Double c1, c2, c3, c4;
@@ -62,12 +92,15 @@ class V_BELT final : public CalculatorWindow {
 
   // The search.
   void SelectSheaves();
+  bool TakeLockedPair();
+  bool FindPair();
+  std::vector<short> RowsFor(const std::string& type, short locked) const;
   const Sheave& At(short row) const { return sheaves_[static_cast<std::size_t>(row)]; }
   Single RpmOf(short driver, short driven) const;
-  void Consider(short driver, short driven, Single& best, bool free);
   std::string ListRow(short driver, short driven) const;
   void SelectChosenRow();
   void ShowSpeeds();
+  void FillSides();
   void ShowSide(short row, Combo& pd, TextField& outside, TextField& part, TextField& bushing);
   void EmptySides();
   void PlaceShafts();
@@ -80,7 +113,7 @@ class V_BELT final : public CalculatorWindow {
   short DriverLock = 0;  // catalogue row of a locked sheave; 0: unlocked
   short DrivenLock = 0;
   bool KeepList = false;   // the candidates stay as they are
-  bool Refilling = false;  // selections do nothing
+  bool Refilling = false;  // selections start no search
   bool walking_ = false;   // code moves the selection among the candidates
   std::string DriverType = "FIXED";
   std::string Section = "A";
@@ -104,11 +137,11 @@ class V_BELT final : public CalculatorWindow {
   Label LBL_MIN_RPM{*this, "LBL_MIN_RPM", "Min RPM"};
   TextField TXT_MIN_RPM{*this, "TXT_MIN_RPM", LBL_MIN_RPM};
   Frame driven_{*this, "", "DRIVEN"};
-  TextField TXT_DRIVEN_RPM{*this, "TXT_DRIVEN_RPM", "RPM "};
-  Combo CMB_DRIVEN_PD{*this, "CMB_DRIVEN_PD", "Pitch Dia "};
-  TextField TXT_DRIVEN_OD{*this, "TXT_DRIVEN_OD", "Outside Dia "};
-  TextField TXT_DRIVEN_PART_NUMBER{*this, "TXT_DRIVEN_PART_NUMBER", "Sheave P/N "};
-  TextField TXT_DRIVEN_BUSHING_PN{*this, "TXT_DRIVEN_BUSHING_PN", "Bushing P/N "};
+  TextField TXT_DRIVEN_RPM{*this, "TXT_DRIVEN_RPM", "RPM"};
+  Combo CMB_DRIVEN_PD{*this, "CMB_DRIVEN_PD", "Pitch Dia"};
+  TextField TXT_DRIVEN_OD{*this, "TXT_DRIVEN_OD", "Outside Dia"};
+  TextField TXT_DRIVEN_PART_NUMBER{*this, "TXT_DRIVEN_PART_NUMBER", "Sheave P/N"};
+  TextField TXT_DRIVEN_BUSHING_PN{*this, "TXT_DRIVEN_BUSHING_PN", "Bushing P/N"};
   Label lock_hint_{*this, "", "Click to lock / unlock selection:"};
   Picture pic_driver_locked, pic_driver_unlocked, pic_driven_locked, pic_driven_unlocked;
 
