@@ -277,9 +277,10 @@ bool V_BELT::Passes(const Sheave& row, const std::string& type) const {
          (row.bore == kShaftBore || row.bore == kBushed);
 }
 
+/// By the pitch diameter as the lists show it: a mean of two may hold more digits than its text.
 short V_BELT::FindRow(Single pd, const std::string& type) const {
   for (short i = 1; i <= SheaveCount; ++i) {
-    if (At(i).pd == pd && Passes(At(i), type)) return i;
+    if (ToNumber(PlainText(At(i).pd)) == pd && Passes(At(i), type)) return i;
   }
   return 0;
 }
