@@ -82,9 +82,7 @@ class Arranger {
 
   void AddCentered(QBoxLayout& box, const Layout& part, QWidget& parent) {
     Add(box, part, parent);
-    box.setAlignment(box.itemAt(box.count() - 1)->layout(), Qt::AlignHCenter);
-    if (QWidget* widget = box.itemAt(box.count() - 1)->widget())
-      box.setAlignment(widget, Qt::AlignHCenter);
+    box.itemAt(box.count() - 1)->setAlignment(Qt::AlignHCenter);
   }
 
   QWidget* WidgetFor(const Layout& part, QWidget& parent) {
