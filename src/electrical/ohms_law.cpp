@@ -83,27 +83,33 @@ Layout OHMS_LAW::Arrangement() {
   const auto sign = [this](const char* text) -> Label& {
     return *signs_.emplace_back(std::make_unique<Label>(*this, "", text));
   };
-  const auto formula = [&](const char* left, Layout right) {
-    return Row({Term({sign(left), std::move(right)}), Stretch()});
+  // The left side chooses the formula like the labels on its right side.
+  const auto formula = [&](const char* left, const Label& chooses, Layout right) {
+    Label& side = sign(left);
+    side.onClick = chooses.onClick;
+    return Row({Term({side, std::move(right)}), Stretch()});
   };
   const auto quantity = [](Label& letter, Label& unit) { return Row({letter, unit, Stretch()}); };
   const auto squared = [](Label& letter, Label& two) { return Term({letter, two}); };
-  return Column({lbl_select,
-                 Cells({Row({quantity(txt_e, unit_e), quantity(txt_i, unit_i),
-                             quantity(txt_r, unit_r), quantity(txt_w, unit_w)}),
-                        Row({formula("E = ", Label1), formula("I = ", Fraction(Label6, Label7)),
-                             formula("R = ", Fraction(Label26, Label27)), formula("W = ", Label5)}),
-                        Row({formula("E = ", Fraction(Label2, Label3)),
-                             formula("I = ", Fraction(Label10, Label11)),
-                             formula("R = ", Fraction(squared(Label14, Label21), Label15)),
-                             formula("W = ", Fraction(squared(Label12, Label22), Label13))}),
-                        Row({formula("E = ", Label4),
-                             formula("I = ", Term({sign("\u221A"), Fraction(Label8, Label9)})),
-                             formula("R = ", Fraction(Label16, squared(Label17, Label20))),
-                             formula("W = ", Term({Label23, Label24, Label25}))})}),
-                 Rule(),
-                 Row({Column({Form({Text1, Text2, Text3})}), Column({Form({Text4}), Stretch()})}),
-                 Row({btn_calc, Stretch(), Command2, btn_print, btn_help, btn_exit})});
+  return Column(
+      {lbl_select,
+       Cells(
+           {Row({quantity(txt_e, unit_e), quantity(txt_i, unit_i), quantity(txt_r, unit_r),
+                 quantity(txt_w, unit_w)}),
+            Row({formula("E = ", Label1, Label1), formula("I = ", Label6, Fraction(Label6, Label7)),
+                 formula("R = ", Label26, Fraction(Label26, Label27)),
+                 formula("W = ", Label5, Label5)}),
+            Row({formula("E = ", Label2, Fraction(Label2, Label3)),
+                 formula("I = ", Label10, Fraction(Label10, Label11)),
+                 formula("R = ", Label14, Fraction(squared(Label14, Label21), Label15)),
+                 formula("W = ", Label12, Fraction(squared(Label12, Label22), Label13))}),
+            Row({formula("E = ", Label4, Label4),
+                 formula("I = ", Label8,
+                         Term({sign("\u221A("), Fraction(Label8, Label9), sign(")")})),
+                 formula("R = ", Label16, Fraction(Label16, squared(Label17, Label20))),
+                 formula("W = ", Label23, Term({Label23, Label24, Label25}))})}),
+       Rule(), Row({Column({Form({Text1, Text2, Text3})}), Column({Form({Text4}), Stretch()})}),
+       Row({btn_calc, Stretch(), Command2, btn_print, btn_help, btn_exit})});
 }
 
 void OHMS_LAW::Load() {

@@ -55,7 +55,7 @@ class OHMS_LAW final : public CalculatorWindow {
   Label Label13{*this, "Label13", "R"};
   Label Label23{*this, "Label23", "I"}, Label24{*this, "Label24", "\u00B2"};
   Label Label25{*this, "Label25", " R"};
-  // Left sides and radical signs, which no click needs to hit.
+  // Left sides, which choose their formula too, and radical signs.
   std::vector<std::unique_ptr<Label>> signs_;
 
   Label lbl_1{*this, "lbl_1"}, lbl_2{*this, "lbl_2"}, lbl_3{*this, "lbl_3"}, lbl_4{*this, "lbl_4"};

@@ -46,14 +46,14 @@ Psychro::Psychro(Session& session)
 }
 
 Layout Psychro::Arrangement() {
-  return Column(
-      {Form({Row({DryBulbF, unit_dry_f, DryBulbC, unit_dry_c}), Row({rh, unit_rh, Stretch()}),
-             Row({DewPointF, unit_dew_f, DewPointC, unit_dew_c})}),
-       Rule(),
-       Form({Row({HumidityRatio, Label7, Grains, Label17}), Row({Enthalpy, Label18, Stretch()}),
-             Row({PressDryBulb, Label12, Stretch()}), Row({PressDewPoint, Label14, Stretch()}),
-             Row({PressRatio, Stretch()})}),
-       instruction_, Row({Stretch(), Command1, Command3, Command2})});
+  return Column({Form({Row({DryBulbF, unit_dry_f, DryBulbC, unit_dry_c, Stretch()}),
+                       Row({rh, unit_rh, Stretch()}),
+                       Row({DewPointF, unit_dew_f, DewPointC, unit_dew_c, Stretch()})}),
+                 Rule(),
+                 Form({Row({HumidityRatio, Label7, Grains, Label17, Stretch()}),
+                       Row({Enthalpy, Label18, Stretch()}), Row({PressDryBulb, Label12, Stretch()}),
+                       Row({PressDewPoint, Label14, Stretch()}), Row({PressRatio, Stretch()})}),
+                 instruction_, Row({Stretch(), Command1, Command3, Command2})});
 }
 
 void Psychro::Load() {

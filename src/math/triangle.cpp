@@ -43,8 +43,8 @@ Drawing Sketch() {
   letters({178, 58}, "A", Ink::Line);
   letters({64, 58}, "C", Ink::Line);
   letters({110, 122}, "B", Ink::Line);
-  letters({58, 99}, "alpha", Ink::Accent);
-  letters({160, 97}, "gamma", Ink::Accent);
+  letters({66, 99}, "alpha", Ink::Accent);
+  letters({151, 99}, "gamma", Ink::Accent);
   letters({126, 52}, "beta", Ink::Accent);
   return drawing;
 }

@@ -235,25 +235,29 @@ V_BELT::V_BELT(Session& session)
   ExitsWith(BTN_QUIT);
 }
 
+// The two sides have their rows at one height.
 Layout V_BELT::Arrangement() {
-  return Column({Row({Form({CMB_SECTION}), txt_loading}),
-                 Row({Column({Box(driver_, {Row({OPT_DRIVER_FIXED, OPT_DRIVER_VARIABLE, Line1}),
-                                            Form({TXT_DRIVER_RPM, CMB_DRIVER_PD, TXT_DRIVER_OD,
-                                                  TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN,
-                                                  txt_max_rpm, TXT_MIN_RPM})})}),
-                      Column({Box(driven_, {Form({TXT_DRIVEN_RPM, CMB_DRIVEN_PD, TXT_DRIVEN_OD,
-                                                  TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN})}),
-                              lock_hint_,
-                              Row({pic_driver_locked, pic_driver_unlocked, Stretch(),
-                                   pic_driven_locked, pic_driven_unlocked}),
-                              Stretch()}),
-                      Column({Form({TXT_BEST_MATCH_RPM, TXT_SPEED_RATIO, CMB_MOTOR_FRAME_SIZE,
-                                    TXT_CENTER_DIST, txt_belt_length, txt_clearance,
-                                    TXT_BELT_NUMBER, TXT_BELT_PART_NUMBER, TXT_HP_CORR}),
-                              Stretch()}),
-                      Column({Text1, List1})}),
-                 Row({BTN_SELECT_SHEAVES, Command1, BTN_CALCULATE, BTN_SHOW, Command4, Stretch(),
-                      Command5, Command6, BTN_PRINT_FORM, Command2, BTN_QUIT})});
+  return Column(
+      {Row({Form({CMB_SECTION}), txt_loading}),
+       Row({Column({Box(driver_, {Form({TXT_DRIVER_RPM, CMB_DRIVER_PD, TXT_DRIVER_OD,
+                                        TXT_DRIVER_PART_NUMBER, TXT_DRIVER_BUSHING_PN}),
+                                  Row({OPT_DRIVER_FIXED, OPT_DRIVER_VARIABLE, Stretch(), Line1}),
+                                  Form({txt_max_rpm, TXT_MIN_RPM})}),
+                    Stretch()}),
+            Column({Box(driven_, {Form({TXT_DRIVEN_RPM, CMB_DRIVEN_PD, TXT_DRIVEN_OD,
+                                        TXT_DRIVEN_PART_NUMBER, TXT_DRIVEN_BUSHING_PN})}),
+                    lock_hint_,
+                    Row({pic_driver_locked, pic_driver_unlocked, lock_driver_, Stretch(),
+                         pic_driven_locked, pic_driven_unlocked, lock_driven_}),
+                    Stretch()}),
+            Column({Box(drive_,
+                        {Form({CMB_MOTOR_FRAME_SIZE, TXT_CENTER_DIST}), Rule(),
+                         Form({TXT_BEST_MATCH_RPM, TXT_SPEED_RATIO, txt_belt_length, txt_clearance,
+                               TXT_BELT_NUMBER, TXT_BELT_PART_NUMBER, TXT_HP_CORR})}),
+                    Stretch()}),
+            Column({Text1, List1})}),
+       Row({BTN_SELECT_SHEAVES, Command1, BTN_CALCULATE, BTN_SHOW, Command4, Stretch(), Command5,
+            Command6, BTN_PRINT_FORM, Command2, BTN_QUIT})});
 }
 
 void V_BELT::Load() {

@@ -143,8 +143,10 @@ class V_BELT final : public CalculatorWindow {
   TextField TXT_DRIVEN_PART_NUMBER{*this, "TXT_DRIVEN_PART_NUMBER", "Sheave P/N"};
   TextField TXT_DRIVEN_BUSHING_PN{*this, "TXT_DRIVEN_BUSHING_PN", "Bushing P/N"};
   Label lock_hint_{*this, "", "Click to lock / unlock selection:"};
+  Label lock_driver_{*this, "", "Driver"}, lock_driven_{*this, "", "Driven"};
   Picture pic_driver_locked, pic_driver_unlocked, pic_driven_locked, pic_driven_unlocked;
 
+  Frame drive_{*this, "", "DRIVE"};
   TextField TXT_BEST_MATCH_RPM{*this, "TXT_BEST_MATCH_RPM", "Closest Match RPM"};
   TextField TXT_SPEED_RATIO{*this, "TXT_SPEED_RATIO", "Speed Ratio"};
   Combo CMB_MOTOR_FRAME_SIZE{*this,

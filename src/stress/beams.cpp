@@ -51,12 +51,14 @@ beams::beams(Session& session)
 }
 
 Layout beams::Arrangement() {
+  const auto input = [](TextField& field) { return Row({field, Stretch()}); };
   return Column(
-      {Row({Column({Form({L, W, I, Z, E}), Stretch()}),
-            Column({Box(Frame1, {simple, rigid, cantilevered}), Box(Frame2, {uniform, conc})})}),
-       Rule(),
-       Form({Row({deflection, btn_deflection_copy}), Row({max_stress, btn_stress_copy}),
-             Row({TORQUE, btn_torque_copy})}),
+      {Row({Column({Form({input(L), input(W), input(I), input(Z), input(E)}), Rule(),
+                    Form({Row({deflection, btn_deflection_copy}),
+                          Row({max_stress, btn_stress_copy}), Row({TORQUE, btn_torque_copy})}),
+                    Stretch()}),
+            Column({Box(Frame1, {simple, rigid, cantilevered}), Box(Frame2, {uniform, conc}),
+                    Stretch()})}),
        Row({btn_calc, Stretch(), Command5, Command4, Command1, Command2, Command3})});
 }
 
