@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -17,29 +19,62 @@
 namespace korvane {
 namespace {
 
-/// What is typed into a window before its picture is taken, and where Enter is pressed then.
+/// What is clicked in a window and typed into it before its picture is taken, and where Enter is
+/// pressed then.
 struct Example {
   const char* window;
   std::vector<std::pair<const char*, const char*>> us;
   std::vector<std::pair<const char*, const char*>> metric;
   const char* enter;
+  std::vector<const char*> clicks = {};
 };
 
 const std::vector<Example>& Examples() {
   static const std::vector<Example> examples = {
       {"FlowCalc", {{"dia", "1"}, {"pressure", "1"}}, {{"dia", "0.1"}, {"pressure", "250"}}, "dia"},
+      {"flow_2",
+       {{"txt_diameter", "2"}, {"txt_gpm", "40"}, {"txt_elbows90", "4"}, {"txt_gvalves", "1"}},
+       {{"txt_diameter", "50"}, {"txt_gpm", "2.5"}, {"txt_elbows90", "4"}, {"txt_gvalves", "1"}},
+       "txt_gpm"},
+      {"Psychro", {{"DryBulbF", "75"}, {"rh", "60"}}, {{"DryBulbF", "75"}, {"rh", "60"}}, "rh"},
+      {"TRIANGLE", {{"A", "3"}, {"B", "4"}, {"C", "5"}}, {{"A", "3"}, {"B", "4"}, {"C", "5"}}, "C"},
+      {"V_BELT",
+       {{"TXT_DRIVEN_RPM", "1000"}},
+       {{"TXT_DRIVEN_RPM", "1000"}},
+       "TXT_DRIVEN_RPM",
+       {"OPT_DRIVER_VARIABLE", "BTN_SHOW"}},
+      {"beams",
+       {{"L", "100"}, {"W", "1000"}, {"I", "10"}, {"Z", "5"}, {"E", "29000000"}},
+       {{"L", "2000"}, {"W", "5000"}, {"I", "4000000"}, {"Z", "50000"}, {"E", "200000"}},
+       "E",
+       {"cantilevered"}},
+      {"OHMS_LAW",
+       {{"Text1", "2"}, {"Text2", "3"}},
+       {{"Text1", "2"}, {"Text2", "3"}},
+       "Text2",
+       {"Label1"}},
   };
   return examples;
+}
+
+/// Lets the window system answer: a window that grows with a caption does so in a few turns.
+void Settle() {
+  QEventLoop loop;
+  constexpr int milliseconds = 50;
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec();
 }
 
 void Work(Session& session, Window& window) {
   const Person person(session);
   for (const Example& example : Examples()) {
     if (window.Name() != example.window) continue;
+    for (const char* name : example.clicks) person.Clicks(*window.Find(name));
     for (const auto& [name, text] : session.MetricUnits ? example.metric : example.us)
       person.Types(dynamic_cast<FocusControl&>(*window.Find(name)), text);
     person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
     person.Presses(window, Key::Enter);
+    Settle();
   }
   constexpr int longest = 50;  // ticks, after which an animation has come to its end
   for (Control* control : window.Controls())
