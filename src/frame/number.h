@@ -10,7 +10,6 @@
 
 #include <bit>
 #include <cmath>
-#include <compare>
 #include <concepts>
 #include <cstdint>
 #include <limits>
@@ -68,7 +67,7 @@ class Checked {
   constexpr Real Value() const { return value_; }
   constexpr explicit operator double() const { return static_cast<double>(value_); }
 
-  constexpr Checked operator-() const { return FromStep(-value_); }
+  constexpr Checked operator-() const { return Finite(-value_); }
   constexpr Checked& operator+=(detail::Operand auto other) { return *this = *this + other; }
   constexpr Checked& operator-=(detail::Operand auto other) { return *this = *this - other; }
   constexpr Checked& operator*=(detail::Operand auto other) { return *this = *this * other; }
@@ -79,11 +78,15 @@ class Checked {
   static constexpr Checked FromStep(Real value, auto fail) {
     if (!IsFinite(value)) [[unlikely]]
       fail();
+    return Finite(value);
+  }
+  static constexpr Checked FromStep(Real value) { return FromStep(value, failures::Overflow); }
+  /// The result of a step that can't leave the finite numbers.
+  static constexpr Checked Finite(Real value) {
     Checked result;
     result.value_ = value;
     return result;
   }
-  static constexpr Checked FromStep(Real value) { return FromStep(value, failures::Overflow); }
 
  private:
   // Infinities and NaNs have the largest bits once the sign is shifted out. A test of whole numbers
@@ -145,11 +148,22 @@ template <class A, class B>
   requires detail::Pair<A, B>
 constexpr bool operator==(A a, B b) { return detail::Raw<double>(a) == detail::Raw<double>(b); }
 
+/// Finite numbers have an order, so that a comparison is a single one.
 template <class A, class B>
   requires detail::Pair<A, B>
-constexpr std::partial_ordering operator<=>(A a, B b) {
-  return detail::Raw<double>(a) <=> detail::Raw<double>(b);
-}
+constexpr bool operator<(A a, B b) { return detail::Raw<double>(a) < detail::Raw<double>(b); }
+
+template <class A, class B>
+  requires detail::Pair<A, B>
+constexpr bool operator>(A a, B b) { return b < a; }
+
+template <class A, class B>
+  requires detail::Pair<A, B>
+constexpr bool operator<=(A a, B b) { return detail::Raw<double>(a) <= detail::Raw<double>(b); }
+
+template <class A, class B>
+  requires detail::Pair<A, B>
+constexpr bool operator>=(A a, B b) { return b <= a; }
 
 // ---- Functions. All give a Double but those that keep their operand's kind. ----
 
@@ -161,7 +175,7 @@ Checked<Real> Int(Checked<Real> x) {
 
 template <class Real>
 Checked<Real> Abs(Checked<Real> x) {
-  return Checked<Real>::FromStep(std::fabs(x.Value()));
+  return Checked<Real>::Finite(std::fabs(x.Value()));
 }
 
 Double Power(Double base, Double exponent);  ///< Fails for a negative base with a fraction.
