@@ -44,14 +44,17 @@ template <class See>
 Single WalkPairs(const std::vector<Sheave>& rows, const std::vector<short>& drivers,
                  const std::vector<short>& drivens, Single driverRpm, Single targetRpm, See see) {
   const auto pd = [&rows](short row) { return rows[static_cast<std::size_t>(row)].pd; };
+  std::vector<Single> drivenPds;
+  for (const short driven : drivens) drivenPds.push_back(pd(driven));
   Single best = kNothingFound;
   for (const short driver : drivers) {
-    for (const short driven : drivens) {
-      const Single rpm = (pd(driver) * driverRpm) / pd(driven);
+    const Single speed = pd(driver) * driverRpm;  // of the belt, but for a factor
+    for (std::size_t i = 0; i < drivens.size(); ++i) {
+      const Single rpm = speed / drivenPds[i];
       const Single diff = Abs(rpm - targetRpm);
       const bool closest = diff <= best;
       if (closest) best = diff;
-      see(SheavePair{driver, driven, rpm, diff}, closest);
+      see(SheavePair{driver, drivens[i], rpm, diff}, closest);
     }
   }
   return best;

@@ -1,0 +1,159 @@
+// The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
+// its pressure drop as the window does it, and the pairs of a catalogue of sheaves.
+
+#include <cmath>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "compare.h"
+#include "driver/interpreter.h"
+#include "mechanical/v_belt.h"
+
+namespace korvane {
+namespace {
+
+// ---- Pipe flow ----
+
+constexpr int kTargets = 100;
+
+/// Pressure drops in ft of water, for flows from some 500 to 900 gal/min in a pipe of 6 in.
+int TargetHead(int search) { return 6 + search % 10; }
+
+/// Enter in the pressure drop of the window, once for each target.
+void SearchInWindow() {
+  int line = 0;
+  const auto input = [&line]() -> std::optional<std::string> {
+    const int at = line++;
+    if (at == 0) return "show flow_2";
+    if (at == 1) return "type txt_diameter 6";
+    if (at == 2) return "type txt_length 300";
+    const int search = (at - 3) / 2;
+    if (search == kTargets) return std::nullopt;
+    if (at % 2 == 1) return "type txt_feet " + std::to_string(TargetHead(search));
+    return "enter txt_feet";
+  };
+  std::size_t bytes = 0;
+  Interpreter(
+      input, [&bytes](const std::string& answer) { bytes += answer.size(); }, "")
+      .Run();
+  benchmark::DoNotOptimize(bytes);
+}
+
+double BareLog10(double x) { return std::log(x) / std::log(10); }
+
+double BareFriction(double reynolds, double rough) {
+  if (reynolds < 2300) return 64 / reynolds;
+  double f = 0.01;
+  for (int round = 0; round <= 5; ++round) {
+    const double g =
+        1.14 - 2 * (BareLog10(1 + 9.3 / (reynolds * rough * std::sqrt(f))) + BareLog10(rough));
+    f = 1 / std::pow(g, 2);
+  }
+  if (reynolds < 5500)
+    f = (BareLog10(reynolds) - BareLog10(2300)) / (BareLog10(5000) - BareLog10(2300)) *
+            (f - 64 / reynolds) +
+        64 / reynolds;
+  return f;
+}
+
+float BareFindFlow(float diameter, float length, double viscosity, double rough, float target) {
+  const float feet = diameter / 12;
+  float gpm = 0;
+  float start = 1;
+  for (const double size : {1.0, 0.01, 0.0001}) {
+    const auto step = static_cast<float>(size);
+    float next = 0;
+    for (gpm = start; gpm <= 1000; gpm += step) {
+      const double speed = gpm * 0.408 / std::pow(diameter, 2);
+      const double reynolds = feet * speed / viscosity;
+      const double f = BareFriction(reynolds, rough);
+      const auto diameters = static_cast<float>(length / feet + 0.0F + 1.5);
+      const auto head = static_cast<float>(std::pow(speed, 2) * (diameters * f) / 64.4);
+      if (head > target) {
+        next = static_cast<float>(gpm - size);
+        break;
+      }
+    }
+    start = next;
+  }
+  return gpm;
+}
+
+void SearchBare() {
+  volatile float diameter = 6, length = 300;
+  volatile double viscosity = 1.077e-5, rough = 0.0005;
+  for (int search = 0; search < kTargets; ++search)
+    benchmark::DoNotOptimize(
+        BareFindFlow(diameter, length, viscosity, rough, static_cast<float>(TargetHead(search))));
+}
+
+void FlowSearch(benchmark::State& state) { CompareTimes(state, 1.5, SearchInWindow, SearchBare); }
+BENCHMARK(FlowSearch)->Unit(benchmark::kMillisecond);
+
+// ---- Sheaves ----
+
+constexpr short kSide = 125;  // rows of a side, in the largest catalogue
+constexpr int kWalks = 100;
+
+std::vector<Sheave> Catalogue() {
+  std::vector<Sheave> rows(1);
+  for (int i = 0; i < 2 * kSide; ++i) rows.emplace_back().pd = 2 + Single(i % kSide) / 10;
+  return rows;
+}
+
+/// What a search makes of the pairs: the closest one, and how many are worth a line.
+struct Outcome {
+  int closest = 0;
+  int listed = 0;
+};
+
+void WalkChecked() {
+  static const std::vector<Sheave> rows = Catalogue();
+  std::vector<short> drivers, drivens;
+  for (short i = 1; i <= kSide; ++i) {
+    drivers.push_back(i);
+    drivens.push_back(static_cast<short>(i + kSide));
+  }
+  for (int walk = 0; walk < kWalks; ++walk) {
+    Outcome outcome;
+    benchmark::DoNotOptimize(
+        WalkPairs(rows, drivers, drivens, 1725, 800 + walk, [&](const SheavePair& pair, bool best) {
+          if (best) outcome.closest = pair.driver * 1000 + pair.driven;
+          if (pair.diff < 100) ++outcome.listed;
+        }));
+    benchmark::DoNotOptimize(outcome);
+  }
+}
+
+void WalkBare() {
+  static const std::vector<float> pd = [] {
+    std::vector<float> diameters;
+    for (const Sheave& row : Catalogue()) diameters.push_back(row.pd.Value());
+    return diameters;
+  }();
+  for (int walk = 0; walk < kWalks; ++walk) {
+    Outcome outcome;
+    float best = 1000;
+    for (int driver = 1; driver <= kSide; ++driver) {
+      for (int driven = kSide + 1; driven <= 2 * kSide; ++driven) {
+        const float rpm =
+            pd[static_cast<std::size_t>(driver)] * 1725 / pd[static_cast<std::size_t>(driven)];
+        const float diff = std::fabs(rpm - static_cast<float>(800 + walk));
+        if (diff <= best) {
+          best = diff;
+          outcome.closest = driver * 1000 + driven;
+        }
+        if (diff < 100) ++outcome.listed;
+      }
+    }
+    benchmark::DoNotOptimize(best);
+    benchmark::DoNotOptimize(outcome);
+  }
+}
+
+void SheaveSearch(benchmark::State& state) { CompareTimes(state, 1.5, WalkChecked, WalkBare); }
+BENCHMARK(SheaveSearch)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace korvane
