@@ -1,0 +1,86 @@
+// The data files that calculators write, byte by byte: signature, labels, order and form of values.
+#include <gtest/gtest.h>
+
+#include "support/scripted_session.h"
+#include "support/temporary_folder.h"
+
+namespace korvane::testing {
+namespace {
+
+struct Saved {
+  const char* window;
+  const char* command;
+  std::vector<const char*> clicks;  ///< before fields are filled
+  std::vector<std::pair<const char*, const char*>> fields;
+  const char* bytes;
+};
+
+void PrintTo(const Saved& saved, std::ostream* out) { *out << saved.window; }
+
+const Saved kSaved[] = {
+    {"beams",
+     "Command4",
+     {"rigid", "conc"},
+     {{"L", " 1.50"}, {"W", ".5"}, {"I", "1,000"}, {"Z", ""}, {"E", "29000000.5"}},
+     "BEAMS\r\nSpan, 1.50\r\nLoad,.5\r\nI,1,000\r\nZ,\r\nE,29000001\r\nBeam Type,Rigid\r\n"
+     "Load Type,Conc\r\nTorque,\r\n"},
+    {"beams",
+     "Command4",
+     {"cantilevered"},
+     {{"L", "3"}, {"E", "0"}, {"TORQUE", "7."}},
+     "BEAMS\r\nSpan,3\r\nLoad,\r\nI,\r\nZ,\r\nE,\r\nBeam Type,Cantilevered\r\nLoad Type,Uniform\r\n"
+     "Torque,7.\r\n"},
+    {"flow_2",
+     "Command1",
+     {},
+     {{"txt_diameter", "2."},
+      {"txt_gpm", "40."},
+      {"txt_cfm", "5.3"},
+      {"txt_Z", "-1"},
+      {"txt_SSU", "31"},
+      {"txt_centistokes", "1.2"},
+      {"txt_dynamic_viscosity", "d"},
+      {"txt_kinematic_viscosity", "k"},
+      {"txt_elbows90L", "1"},
+      {"txt_elbows90", "2"},
+      {"txt_elbows90st", "3"},
+      {"txt_elbows45", "4"},
+      {"txt_elbows45st", "5"},
+      {"txt_gvalves", "6"},
+      {"txt_gvalves75", "7"},
+      {"txt_gvalves50", "8"},
+      {"txt_gvalves25", "9"},
+      {"txt_globes", "10"},
+      {"txt_angles", "11"},
+      {"txt_bvalves", "12"},
+      {"txt_swing_checks", "13"},
+      {"txt_ball_checks", "14"},
+      {"txt_tee_run", "15"},
+      {"txt_tee_branch", "16"}},
+     "FLUID FLOW\r\nPipe ID,2.\r\nPipe length,100\r\nFlow gpm,40.\r\nFlow scfm,5.3\r\n"
+     "Elevation,-1\r\nDensity,62.42\r\nViscosity cp,1\r\nViscosity cs,1.2\r\nViscosity ssu,31\r\n"
+     "Dynamic viscosity,d\r\nKinematic viscosity,k\r\nRoughness factor,0.0005\r\nelbows90L,1\r\n"
+     "elbows90,2\r\nelbows90st,3\r\nelbows45,4\r\nelbows45st,5\r\ngvalves,6\r\ngvalves75,7\r\n"
+     "gvalves50,8\r\ngvalves25,9\r\nglobes,10\r\nangles,11\r\nbvalves,12\r\nswing_checks,13\r\n"
+     "ball_checks,14\r\ntee_run,15\r\ntee_branch,16\r\n"},
+};
+
+class DataFiles : public ::testing::TestWithParam<Saved> {};
+
+TEST_P(DataFiles, AreWrittenByteByByte) {
+  const Saved& saved = GetParam();
+  ScriptedSession suite;
+  const TemporaryFolder folder;
+  suite.Shows(saved.window);
+  for (const char* name : saved.clicks) suite.person.Clicks(suite.Get(name));
+  for (const auto& [name, text] : saved.fields)
+    suite.person.Types(suite.Get<FocusControl>(name), text);
+  suite.platform.QueueFile(folder.File("a.dta"));
+  suite.person.Clicks(suite.Get(saved.command));
+  EXPECT_EQ(folder.Read("a.dta"), saved.bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, DataFiles, ::testing::ValuesIn(kSaved));
+
+}  // namespace
+}  // namespace korvane::testing
