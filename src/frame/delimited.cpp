@@ -24,8 +24,7 @@ std::string Normalised(const std::string& text) {
 }  // namespace
 
 bool DelimitedReader::AtEnd() {
-  return !afterComma_ &&
-         rest_.find_first_not_of(kBlanksAndLineEnds) == std::string_view::npos;
+  return !afterComma_ && rest_.find_first_not_of(kBlanksAndLineEnds) == std::string_view::npos;
 }
 
 std::string DelimitedReader::Text() { return Next().text; }

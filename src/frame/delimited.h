@@ -8,10 +8,10 @@
 
 namespace korvane {
 
-/// Gives the fields of a text one after the other. A field ends at a comma or a line end, so that only the
-/// order of fields counts, not their lines; blanks ahead of it and empty lines are skipped; one that begins
-/// with a double quote runs to the next double quote. A comma with nothing behind it on its line has an
-/// empty field behind it.
+/// Gives the fields of a text one after the other. A field ends at a comma or a line end, so that
+/// only the order of fields counts, not their lines; blanks ahead of it and empty lines are
+/// skipped; one that begins with a double quote runs to the next double quote. A comma with nothing
+/// behind it on its line has an empty field behind it.
 class DelimitedReader {
  public:
   /// The text must outlive the reader.

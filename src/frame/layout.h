@@ -14,16 +14,16 @@ class Frame;
 /// is the tab order of the window.
 struct Layout {
   enum class Kind : std::uint8_t {
-    Control,  ///< one control
-    Row,      ///< side by side
-    Column,   ///< one below the other
-    Form,     ///< fields one below the other with their captions in a column beside them
-    Grid,     ///< parts are rows, whose parts align in columns
-    Frame,    ///< parts inside a frame control with its caption
-    Rule,     ///< a line between inputs and results
-    Term,     ///< side by side without gaps: the parts of a formula
-    Fraction, ///< the first part over the second, with a bar between them
-    Stretch,  ///< takes the free space
+    Control,   ///< one control
+    Row,       ///< side by side
+    Column,    ///< one below the other
+    Form,      ///< fields one below the other with their captions in a column beside them
+    Grid,      ///< parts are rows, whose parts align in columns
+    Frame,     ///< parts inside a frame control with its caption
+    Rule,      ///< a line between inputs and results
+    Term,      ///< side by side without gaps: the parts of a formula
+    Fraction,  ///< the first part over the second, with a bar between them
+    Stretch,   ///< takes the free space
   };
 
   Kind kind = Kind::Stretch;

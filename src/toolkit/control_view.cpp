@@ -87,7 +87,7 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
       if (model_.IsLocked()) shown_.home(false);  // a long text is read from its beginning
     }
     shown_.setReadOnly(model_.IsLocked() || model_.IsResult());
-    shown_.setAccessibleName(Plain(model_.Caption()));
+    shown_.setAccessibleName(NameOf(model_, shown_));
     if (model_.TakeSelectAll()) shown_.selectAll();
   }
 };
@@ -118,7 +118,7 @@ class ComboView final : public ViewOf<Combo, QComboBox> {
     shown_.setCurrentIndex(model_.Index());
     if (model_.IsEditable() && shown_.currentText() != ToQt(model_.Text()))
       shown_.setEditText(ToQt(model_.Text()));
-    shown_.setAccessibleName(Plain(model_.Caption()));
+    shown_.setAccessibleName(NameOf(model_, shown_));
   }
 
   QStringList items_;
@@ -151,7 +151,7 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
       // What the program chose is seen among its neighbours.
       shown_.scrollToItem(shown_.currentItem(), QAbstractItemView::PositionAtCenter);
     }
-    shown_.setAccessibleName(Plain(model_.Caption()));
+    shown_.setAccessibleName(NameOf(model_, shown_));
   }
 
   QStringList items_;
@@ -290,7 +290,7 @@ class ScrollView final : public ViewOf<ScrollBar, QScrollBar> {
   void RefreshContent() override {
     const QSignalBlocker quiet(shown_);
     shown_.setValue(model_.Value());
-    shown_.setAccessibleName(Plain(model_.Caption()));
+    shown_.setAccessibleName(NameOf(model_, shown_));
   }
 };
 
@@ -393,6 +393,16 @@ class PageBrowser final : public ViewOf<PageView, HelpBrowser> {
 };
 
 }  // namespace
+
+QString NameOf(const CaptionedControl& control, const QWidget& widget) {
+  const QString caption = Plain(control.Caption());
+  if (control.CaptionBeside().GetKind() == Control::Kind::Frame) return caption;
+  for (const QWidget* outer = widget.parentWidget(); outer != nullptr;
+       outer = outer->parentWidget())
+    if (const auto* box = qobject_cast<const QGroupBox*>(outer); box && !box->title().isEmpty())
+      return box->title() + ' ' + caption;
+  return caption;
+}
 
 // ---- ControlView ----
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <memory>
 
 #include "frame/controls.h"
@@ -35,6 +36,10 @@ class ControlView : public QObject {
   QWidget& widget_;
   bool detached_ = false;
 };
+
+/// What a control is called for those who can't see it: its caption, behind the title of the frame
+/// that it stands in, since two frames may have fields of one caption.
+QString NameOf(const CaptionedControl& control, const QWidget& widget);
 
 /// The view of a control in the given parent; null for a timer, which has nothing to show.
 std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& person,

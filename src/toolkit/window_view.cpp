@@ -141,7 +141,7 @@ void WindowView::RefreshControl(Control& control) {
   for (const auto& [other, otherView] : views_) {
     const auto* captioned = dynamic_cast<const CaptionedControl*>(other);
     if (captioned != nullptr && &captioned->CaptionBeside() == &control && otherView)
-      otherView->Widget().setAccessibleName(Plain(control.Caption()));
+      otherView->Widget().setAccessibleName(NameOf(*captioned, otherView->Widget()));
   }
 }
 
