@@ -159,8 +159,8 @@ QPointF MiddleOfLetters(QTableView& view, int column) {
 TEST_F(Tables, AlignTheirCells) {
   constexpr int kCodes = 10;
   std::string file = "c\r\nAligned\r\n2,12,1,0\r\n";
-  for (int column = 0; column < 12; ++column) file += "900,";
-  file += "\r\n0,1,2,3,4,5,6,7,8,9,9,77\r\n";
+  for (int column = 0; column < 12; ++column) file += "900\r\n";
+  file += "0,1,2,3,4,5,6,7,8,9,9,77\r\n";
   for (int row = 0; row < 2; ++row) file += "x,x,x,x,x,x,x,x,x,x,1.5,x\r\n";
   Show(file);
   for (QTableView* view : {&Top(), &Body()}) {
