@@ -45,6 +45,7 @@ Single WalkPairs(const std::vector<Sheave>& rows, const std::vector<short>& driv
                  const std::vector<short>& drivens, Single driverRpm, Single targetRpm, See see) {
   const auto pd = [&rows](short row) { return rows[static_cast<std::size_t>(row)].pd; };
   std::vector<Single> drivenPds;
+  drivenPds.reserve(drivens.size());
   for (const short driven : drivens) drivenPds.push_back(pd(driven));
   Single best = kNothingFound;
   for (const short driver : drivers) {

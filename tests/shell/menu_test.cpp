@@ -1,6 +1,8 @@
 // The menu catalogue: its shape, and what its entries do.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <set>
 
 #include "../support/scripted_session.h"
@@ -73,6 +75,32 @@ TEST_F(Menus, OpenTablesByUnits) {
   EXPECT_EQ(suite.session.DataFileName, "CoprWirM.dat");
   Pick("Ascii");
   EXPECT_EQ(suite.session.DataFileName, "Ascii.dat");
+}
+
+// Every entry that can be clicked opens what it names, with the tables that the program comes with.
+TEST(MenuWalk, OpensAllThatIsOffered) {
+  ScriptedSession suite(WindowCatalogue(),
+                        std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
+  suite.session.ShowsSplash = false;
+  suite.platform.onModal = [&suite](Window& modal) { suite.person.Closes(modal); };
+  suite.Shows("MAINFORM");
+  MenuBar& menu = *suite.session.Find("MAINFORM")->Menu();
+  int opened = 0;
+  for (const char* units : {"Imperial", "SI_Metric"}) {
+    suite.person.Picks(*menu.Find(units));
+    for (MenuEntry& entry : menu.Entries()) {
+      if (!entry.onClick || entry.name == "Exit" || !menu.IsReachable(entry)) continue;
+      suite.Told();
+      suite.person.Picks(entry);
+      const Lines told = suite.Told();
+      EXPECT_TRUE(std::none_of(told.begin(), told.end(), [](const std::string& line) {
+        return line.starts_with("! failure");
+      })) << entry.name;
+      opened += std::any_of(told.begin(), told.end(),
+                            [](const std::string& line) { return line.starts_with("! shown"); });
+    }
+  }
+  EXPECT_GT(opened, 20);
 }
 
 // The comparison of frames closes the plain viewer only; one with a drawing keeps its table.
