@@ -15,7 +15,7 @@ void ReadAll(std::string_view text, Read read) {
   try {
     while (!reader.AtEnd()) {
       read(reader);
-      Require(++fields <= text.size());
+      Require(++fields <= text.size() + 1);  // a comma at the end has a field behind it
     }
     read(reader);
   } catch (const RuntimeFailure& failure) {
