@@ -382,6 +382,7 @@ Single flow_2::Compared() const {
 // went beyond the target. One that never did leaves the next one to start from 0, where the
 // friction factor fails; so a search takes some 1200 steps at most.
 void flow_2::FindFlow() {
+  const Hourglass hourglass(GetSession().GetPlatform());
   const Single target = Target();
   Single start = 1;
   for (const double size : {1.0, 0.01, 0.0001}) {
