@@ -41,6 +41,10 @@ void CalculatorWindow::LoadsWith(Command& command, const DataFile& data) {
   command.onClick = [this, &data] { LoadData(GetSession(), data); };
 }
 
+void CalculatorWindow::CopiesWith(Command& command, const TextField& field) {
+  command.onClick = [this, &field] { GetSession().GetPlatform().SetClipboard(field.Text()); };
+}
+
 bool CalculatorWindow::IsMetric() const { return GetSession().MetricUnits; }
 
 void CalculatorWindow::ComputesAndMovesOn(std::initializer_list<TextField*> fields,
@@ -57,6 +61,10 @@ void CalculatorWindow::PassesFocusOn(std::initializer_list<TextField*> fields) {
     field->MakeResult();
     field->onFocus = [this] { GetSession().SendTab(); };
   }
+}
+
+void CalculatorWindow::ShowsResultsIn(std::initializer_list<TextField*> fields) {
+  for (TextField* field : fields) field->ShadeAsResult();
 }
 
 void CalculatorWindow::SelectsOnFocus(std::initializer_list<TextField*> fields) {

@@ -31,6 +31,7 @@ class CalculatorWindow : public Window {
   void PrintsWith(Command& command);
   void SavesWith(Command& command, const DataFile& data);
   void LoadsWith(Command& command, const DataFile& data);
+  void CopiesWith(Command& command, const TextField& field);  ///< its text, to the clipboard
 
   /// Whether metric units are selected now; captions keep to the units at the window's load.
   bool IsMetric() const;
@@ -39,6 +40,9 @@ class CalculatorWindow : public Window {
   void ComputesAndMovesOn(std::initializer_list<TextField*> fields, const Handler& compute);
   /// A result field that passes the focus on as soon as it gets it.
   void PassesFocusOn(std::initializer_list<TextField*> fields);
+  /// Fields that show results although a person may type in them: set apart from inputs to the eye
+  /// alone.
+  static void ShowsResultsIn(std::initializer_list<TextField*> fields);
   /// Fields whose whole text is selected when they get the focus.
   void SelectsOnFocus(std::initializer_list<TextField*> fields);
 

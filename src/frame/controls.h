@@ -236,7 +236,10 @@ class TextField : public CaptionedControl {
   /// Only shows a result: the focus does not stay here, and the screen sets it apart from inputs.
   /// The person may still select and copy the text.
   bool IsResult() const { return result_; }
-  void MakeResult() { result_ = true; }
+  void MakeResult() { result_ = shaded_ = true; }
+  /// Looks like a result, but the person may type in it.
+  bool IsShaded() const { return shaded_; }
+  void ShadeAsResult() { shaded_ = true; }
 
   /// Holds words rather than a number: an address, a heading.
   bool IsFreeText() const { return freeText_; }
@@ -250,6 +253,7 @@ class TextField : public CaptionedControl {
   bool freeText_ = false;
   bool locked_ = false;
   bool result_ = false;
+  bool shaded_ = false;
   bool selectAll_ = false;
 };
 

@@ -76,8 +76,8 @@ Conversion_Factors::Conversion_Factors(Session& session)
   txt_search.onChange = [this] { Search(); };
   txt_search.onEnter = [] {};
   SelectsOnFocus({&Text1, &Text2, &txt_search});
-  btn_copy_left.onClick = [this] { GetSession().GetPlatform().SetClipboard(Text1.Text()); };
-  btn_copy_right.onClick = [this] { GetSession().GetPlatform().SetClipboard(Text2.Text()); };
+  CopiesWith(btn_copy_left, Text1);
+  CopiesWith(btn_copy_right, Text2);
   HelpsWith(btn_help);
 }
 

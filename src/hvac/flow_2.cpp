@@ -1,6 +1,6 @@
 #include "hvac/flow_2.h"
 
-#include "frame/session.h"
+#include "frame/search.h"
 
 namespace korvane {
 namespace {
@@ -107,6 +107,8 @@ flow_2::flow_2(Session& session)
   SelectsOnFocus({&txt_diameter, &txt_length, &txt_gpm, &txt_cfm, &txt_Z, &txt_density,
                   &txt_centipoise, &txt_centistokes, &txt_SSU, &txt_dynamic_viscosity,
                   &txt_kinematic_viscosity, &txt_roughness});
+
+  ShowsResultsIn({&txt_velocity, &txt_reynolds, &txt_friction});
 
   file = {"FLUID FLOW", "fluidflo.dta", "Load data file...", Records(), [this] { Solve(); }};
   btn_calc.onClick = [this] { Solve(); };
@@ -382,7 +384,7 @@ Single flow_2::Compared() const {
 // went beyond the target. One that never did leaves the next one to start from 0, where the
 // friction factor fails; so a search takes some 1200 steps at most.
 void flow_2::FindFlow() {
-  const Hourglass hourglass(GetSession().GetPlatform());
+  Search search(GetSession());
   const Single target = Target();
   Single start = 1;
   for (const double size : {1.0, 0.01, 0.0001}) {
@@ -390,6 +392,7 @@ void flow_2::FindFlow() {
     Single next = 0;
     for (gpm = start; gpm <= kSearchEnd; gpm += step) {
       FlowState();
+      search.Stepped();
       if (Compared() > target) {
         next = gpm - size;
         break;

@@ -40,6 +40,7 @@ Psychro::Psychro(Session& session)
     InputMode = "D";
     Recalculate();
   };
+  ShowsResultsIn({&HumidityRatio, &Grains, &Enthalpy, &PressDryBulb, &PressDewPoint, &PressRatio});
   PrintsWith(Command1);
   HelpsWith(Command3);
   ExitsWith(Command2);

@@ -4,7 +4,7 @@
 
 #include "frame/codepage.h"
 #include "frame/delimited.h"
-#include "frame/session.h"
+#include "frame/search.h"
 
 namespace korvane {
 namespace {
@@ -227,6 +227,11 @@ V_BELT::V_BELT(Session& session)
     GetSession().DataFileName = kFrames;
     GetSession().Show("DISPLAY");
   };
+  ShowsResultsIn({&TXT_BEST_MATCH_RPM, &TXT_SPEED_RATIO, &txt_belt_length, &txt_clearance,
+                  &TXT_BELT_NUMBER, &TXT_BELT_PART_NUMBER, &TXT_HP_CORR, &txt_max_rpm, &TXT_MIN_RPM,
+                  &TXT_DRIVER_OD, &TXT_DRIVER_PART_NUMBER, &TXT_DRIVER_BUSHING_PN, &TXT_DRIVEN_OD,
+                  &TXT_DRIVEN_PART_NUMBER, &TXT_DRIVEN_BUSHING_PN});
+
   SetDefault(BTN_SELECT_SHEAVES);
   LoadsWith(Command5, file);
   SavesWith(Command6, file);
@@ -372,7 +377,6 @@ void V_BELT::SelectSheaves() {
   if (!KeepList) List1.SetItems({});
   txt_loading.SetText("CHECKING COMBINATIONS");
   txt_loading.Show();
-  const Hourglass hourglass(GetSession().GetPlatform());
   DriverRpm = ToNumber(TXT_DRIVER_RPM);
   TargetRpm = ToNumber(TXT_DRIVEN_RPM);
   Section = CMB_SECTION.Text();
@@ -405,6 +409,7 @@ bool V_BELT::TakeLockedPair() {
 
 bool V_BELT::FindPair() {
   const bool free = DriverLock == 0 && DrivenLock == 0;
+  Search search(GetSession());
   const Single best =
       WalkPairs(sheaves_, RowsFor(DriverType, DriverLock), RowsFor("FIXED", DrivenLock), DriverRpm,
                 TargetRpm, [&](const SheavePair& pair, bool closest) {
@@ -416,6 +421,7 @@ bool V_BELT::FindPair() {
                   }
                   if (free ? pair.diff < kCandidate : !KeepList)
                     List1.AddItem(ListRow(pair.driver, pair.driven));
+                  search.Stepped();
                 });
   if (best >= kNothingFound) return false;
   SelectChosenRow();

@@ -35,14 +35,12 @@ beams::beams(Session& session)
     };
   ComputesAndMovesOn({&L, &W, &I, &Z, &E}, [this] { ComputeBeam(); });
 
-  const auto copies = [this](Command& command, const TextField& field) {
-    command.onClick = [this, &field] { GetSession().GetPlatform().SetClipboard(field.Text()); };
-  };
-  copies(btn_deflection_copy, deflection);
-  copies(btn_stress_copy, max_stress);
-  copies(btn_torque_copy, TORQUE);
+  ShowsResultsIn({&deflection, &max_stress, &TORQUE});
 
   SetDefault(btn_calc);
+  CopiesWith(btn_deflection_copy, deflection);
+  CopiesWith(btn_stress_copy, max_stress);
+  CopiesWith(btn_torque_copy, TORQUE);
   LoadsWith(Command5, file);
   SavesWith(Command4, file);
   PrintsWith(Command1);

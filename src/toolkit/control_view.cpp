@@ -392,6 +392,11 @@ class PageBrowser final : public ViewOf<PageView, HelpBrowser> {
   }
 };
 
+template <class View, class Model>
+std::unique_ptr<ControlView> Make(Control& control, const Person& person, QWidget& parent) {
+  return std::make_unique<View>(static_cast<Model&>(control), person, parent);
+}
+
 }  // namespace
 
 QString NameOf(const CaptionedControl& control, const QWidget& widget) {
@@ -449,7 +454,7 @@ void ControlView::RefreshColors() {
                      control_.GetKind() == Control::Kind::List;
   const Color usual = field ? Color::Window() : Color::ButtonFace();
   const auto* text = dynamic_cast<const TextField*>(&control_);
-  const bool result = text != nullptr && text->IsResult();
+  const bool result = text != nullptr && text->IsShaded();
   if (control_.Back() == usual && control_.Fore() == Color::Text() && !result) {
     widget_.setPalette(QPalette());
     widget_.setAutoFillBackground(false);
@@ -476,32 +481,21 @@ void ControlView::RefreshColors() {
 std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& person,
                                              QWidget& parent) {
   switch (control.GetKind()) {
-    case Control::Kind::Text:
-      return std::make_unique<TextView>(static_cast<TextField&>(control), person, parent);
-    case Control::Kind::Combo:
-      return std::make_unique<ComboView>(static_cast<Combo&>(control), person, parent);
-    case Control::Kind::List:
-      return std::make_unique<ListView>(static_cast<ListBox&>(control), person, parent);
-    case Control::Kind::Option:
-      return std::make_unique<OptionView>(static_cast<Option&>(control), person, parent);
-    case Control::Kind::Check:
-      return std::make_unique<CheckView>(static_cast<CheckBox&>(control), person, parent);
-    case Control::Kind::Command:
-      return std::make_unique<CommandView>(static_cast<Command&>(control), person, parent);
-    case Control::Kind::Label:
-      return std::make_unique<LabelView>(static_cast<Label&>(control), person, parent);
-    case Control::Kind::Picture:
-      return std::make_unique<PictureView>(static_cast<Picture&>(control), person, parent);
-    case Control::Kind::Frame:
-      return std::make_unique<FrameView>(static_cast<Frame&>(control), person, parent);
-    case Control::Kind::Spin:
-      return std::make_unique<SpinView>(static_cast<SpinButton&>(control), person, parent);
-    case Control::Kind::Scroll:
-      return std::make_unique<ScrollView>(static_cast<ScrollBar&>(control), person, parent);
-    case Control::Kind::Grid: return MakeGridView(static_cast<Grid&>(control), person, parent);
-    case Control::Kind::Page:
-      return std::make_unique<PageBrowser>(static_cast<PageView&>(control), person, parent);
-    case Control::Kind::Timer: break;
+    using enum Control::Kind;
+    case Text: return Make<TextView, TextField>(control, person, parent);
+    case Combo: return Make<ComboView, korvane::Combo>(control, person, parent);
+    case List: return Make<ListView, ListBox>(control, person, parent);
+    case Option: return Make<OptionView, korvane::Option>(control, person, parent);
+    case Check: return Make<CheckView, CheckBox>(control, person, parent);
+    case Command: return Make<CommandView, korvane::Command>(control, person, parent);
+    case Label: return Make<LabelView, korvane::Label>(control, person, parent);
+    case Picture: return Make<PictureView, korvane::Picture>(control, person, parent);
+    case Frame: return Make<FrameView, korvane::Frame>(control, person, parent);
+    case Spin: return Make<SpinView, SpinButton>(control, person, parent);
+    case Scroll: return Make<ScrollView, ScrollBar>(control, person, parent);
+    case Grid: return MakeGridView(static_cast<korvane::Grid&>(control), person, parent);
+    case Page: return Make<PageBrowser, PageView>(control, person, parent);
+    case Timer: break;
   }
   return nullptr;
 }
