@@ -12,8 +12,8 @@ import unittest
 
 import pyatspi
 
-from screen import (Korvane, MAIN, active_title, calculator, expect, find_window, keys, menu,
-                    wait_for, window, write)
+from screen import (Korvane, MAIN, active_title, calculator, expect, find_window, keys, manage,
+                    menu, wait_for, window, write)
 
 TIME_LIMIT = 30  # seconds for a journey
 CALCULATOR = "Orifice Flow Calculations (Air)"
@@ -49,7 +49,7 @@ def bad_setting(korvane):
 def geometry_is_kept(korvane):
     """A main window that is moved and resized opens there and so at the next start."""
     main = korvane.start()
-    subprocess.run(["wmctrl", "-r", ":ACTIVE:", "-e", "0,200,150,700,90"], check=True, timeout=5)
+    manage(MAIN, "-e", "0,200,150,700,90")
     expect("the size", lambda: main.place[2:], (700, 90))
     placed = main.place
     menu("File", "Exit")
@@ -67,8 +67,7 @@ def exit_while_maximized(korvane):
     """The default place is stored, not the maximized one."""
     main = korvane.start()
     width = main.place[2]
-    subprocess.run(["wmctrl", "-r", ":ACTIVE:", "-b", "add,maximized_vert,maximized_horz"],
-                   check=True, timeout=5)
+    manage(MAIN, "-b", "add,maximized_vert,maximized_horz")
     wait_for("the large window", lambda: main.place[2] > width)
     menu("File", "Exit")
     expect("the exit status", korvane.exit_status, 0)

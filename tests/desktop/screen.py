@@ -148,6 +148,13 @@ def active_title():
     return next((w.name.strip() for w in windows() if w.has(pyatspi.STATE_ACTIVE)), None)
 
 
+def manage(title, *request):
+    """Asks the window manager for something about a window, once that one is in front."""
+    expect("the window in front", active_title, title)
+    wait_for("the window manager", lambda: subprocess.run(
+        ["wmctrl", "-r", ":ACTIVE:", *request], timeout=5).returncode == 0)
+
+
 def screen_text():
     lines = []
     for shown in windows():
