@@ -1,4 +1,3 @@
-#!/usr/bin/python3
 """Checks the tables in data/: made by their generators, well-formed, and right.
 
 The values here are independent of the generators: SI values as NIST SP 811 prints them, the rule of
@@ -14,50 +13,12 @@ import unittest
 from fractions import Fraction
 from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
-DATA = ROOT / "data"
+from table_reader import DATA, ROOT, Table, fields_of, lines_of
+
 GENERATE = ROOT / "tools" / "tables" / "generate.py"
 
 # Files of records that calculators read themselves, so not laid out for the table viewer.
 RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat"}
-
-
-def fields_of(text):
-    """The fields as the program's reader sees them, each with whether it was quoted."""
-    fields, at = [], 0
-    while (start := re.compile(r"[ \t\r\n]*").match(text, at).end()) < len(text):
-        if text[start] == '"':
-            end = text.index('"', start + 1)
-            fields.append((text[start + 1 : end], True))
-            at = re.compile(r"[ \t]*(,|\r?\n|$)").match(text, end + 1).end()
-        else:
-            end = re.compile(r"[^,\r\n]*").match(text, start).end()
-            fields.append((text[start:end], False))
-            at = re.compile(r",|\r?\n|").match(text, end).end()
-    return fields
-
-
-def lines_of(name):
-    return (DATA / name).read_bytes().decode("cp1252").split("\r\n")
-
-
-class Table:
-    """A viewer's table: its title, shape and rows, the fixed ones included."""
-
-    def __init__(self, name):
-        lines = lines_of(name)
-        self.title = lines[1]
-        fields = [text for text, _ in fields_of("\r\n".join(lines[2:]))]
-        self.shape = [int(text) for text in fields[:4]]
-        rows, columns, self.fixed_rows, self.fixed_columns = self.shape
-        self.widths = [int(text) for text in fields[4 : 4 + columns]]
-        self.alignments = [int(text) for text in fields[4 + columns : 4 + 2 * columns]]
-        self.cells = fields[4 + 2 * columns :]
-        self.rows = [self.cells[n : n + columns] for n in range(0, len(self.cells), columns)]
-        self.body = self.rows[self.fixed_rows :]
-
-    def by_key(self):
-        return {row[0]: row for row in self.body}
 
 
 class Pair:
@@ -98,7 +59,9 @@ class Files(unittest.TestCase):
                     self.assertEqual(path.read_bytes(), (DATA / path.name).read_bytes())
 
     def test_every_table_tells_its_source(self):
-        told = re.findall(r"^\| `([^`]+)`", (DATA / "SOURCES.md").read_text("utf-8"), re.M)
+        text = (DATA / "SOURCES.md").read_text("utf-8")
+        told = [name for names in re.findall(r"^\| (`.*?) \|", text, re.M)
+                for name in re.findall("`([^`]+)`", names)]
         self.assertEqual(sorted(told, key=str.casefold), sorted(table_names(), key=str.casefold))
 
     def test_names_differ_by_more_than_case(self):
@@ -726,6 +689,3 @@ class Motors(unittest.TestCase):
                     self.assertLess(abs(float(iec[n]) - float(nema[n])), 2.3, (iec[0], n))
             self.assertLess(abs(float(iec[1]) - float(nema[1])), 9.1, iec[0])
 
-
-if __name__ == "__main__":
-    unittest.main()
