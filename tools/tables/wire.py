@@ -1,11 +1,11 @@
-"""COPRWIRE.dat and CoprWirM.dat: solid copper wire, from one list of sizes.
+"""COPRWIRE.dat, CoprWirM.dat, alumWIRE.dat, AlumWirM.dat: solid wire, from one list of sizes.
 
 Diameters follow ASTM B258: 0.005 inch at No. 36, 0.46 inch at No. 0000, in 39 equal ratios.
-Annealed copper of 100 % IACS (IEC 60028): 1/58 ohm mm2/m at 20 C, 8.89 g/cm3, 0.00393 per degree.
 """
 
 from decimal import Decimal, getcontext
 from pathlib import Path
+from typing import NamedTuple
 
 from table_file import CENTER, Column, rounded, rows_of, write_table
 
@@ -13,13 +13,9 @@ getcontext().prec = 40
 
 PI = Decimal("3.141592653589793238462643383279502884197")
 MM = Decimal("25.4")
-RESISTIVITY = 1 / Decimal(58)  # ohm mm2/m
-COEFFICIENT = Decimal("0.00393")
-DENSITY = Decimal("8.89")
 FEET = Decimal("0.3048")
 POUND = Decimal("0.45359237")
 
-AWG = [*range(-3, 41)]
 KCMIL = [2000, 1750, 1500, 1250, 1000, 900, 800, 750, 700, 600, 500, 400, 350, 300, 250]
 
 
@@ -27,24 +23,67 @@ def awg_name(number):
     return f"{1 - number}/0" if number < 1 else str(number)
 
 
-def sizes():
+def sizes(thinnest):
     """Names and diameters in inches, from the thickest down."""
     for kcmil in KCMIL:
         yield f"{kcmil} kcmil", (Decimal(kcmil) / 1000).sqrt()
-    for number in AWG:
+    for number in range(-3, thinnest + 1):
         yield awg_name(number), Decimal("0.005") * Decimal(92) ** (Decimal(36 - number) / 39)
 
 
+class Metal(NamedTuple):
+    title: str
+    files: tuple
+    ampacities: str
+    about: str
+    condition: str
+    resistivity: Decimal  # ohm mm2/m at 20 C
+    coefficient: Decimal  # of resistance, per degree
+    density: Decimal  # g/cm3
+    thinnest: int  # gauge number
+
+
+METALS = [
+    Metal(
+        title="Copper Wire",
+        files=("COPRWIRE.dat", "CoprWirM.dat"),
+        ampacities="wire_ampacity.txt",
+        about="annealed copper of 100 % IACS",  # IEC 60028
+        condition="annealed; ",
+        resistivity=1 / Decimal(58),
+        coefficient=Decimal("0.00393"),
+        density=Decimal("8.89"),
+        thinnest=40,
+    ),
+    Metal(
+        title="Aluminum Wire",
+        files=("alumWIRE.dat", "AlumWirM.dat"),
+        ampacities="aluminum_ampacity.txt",
+        about="aluminum 1350 of 61.2 % IACS",  # ASTM B230
+        condition="",
+        resistivity=Decimal("0.028172"),
+        coefficient=Decimal("0.00404"),
+        density=Decimal("2.705"),
+        thinnest=30,
+    ),
+]
+
+
 def write(folder):
-    rows = rows_of(Path(__file__).with_name("wire_ampacity.txt"))
+    for metal in METALS:
+        write_metal(folder, metal)
+
+
+def write_metal(folder, metal):
+    rows = rows_of(Path(__file__).with_name(metal.ampacities))
     ampacities = {size: values for size, *values in rows}
     us, metric = [], []
-    for name, inches in sizes():
+    for name, inches in sizes(metal.thinnest):
         mm = inches * MM
         area = PI / 4 * mm * mm
-        at_20 = RESISTIVITY / area * 1000  # ohm/km
-        at_75 = at_20 * (1 + COEFFICIENT * 55)
-        weight = area * DENSITY  # kg/km
+        at_20 = metal.resistivity / area * 1000  # ohm/km
+        at_75 = at_20 * (1 + metal.coefficient * 55)
+        weight = area * metal.density  # kg/km
         amperes = ampacities.get(name, ["", "", ""])
         mils = inches * inches * 1000000
         us.append(
@@ -60,14 +99,14 @@ def write(folder):
         )
     amperes = [Column(("NEC 310.16", f"{t} °C, A"), CENTER) for t in (60, 75, 90)]
     comment = (
-        "ASTM B258 sizes, solid annealed copper of 100 % IACS; ampacities of insulated conductors, "
+        f"ASTM B258 sizes, solid {metal.about}; ampacities of insulated conductors, "
         "three in raceway, 30 C ambient, from NFPA 70-2020 (NEC) Table 310.16"
     )
     size = Column(("Size", "AWG / kcmil"), CENTER)
     write_table(
-        folder / "COPRWIRE.dat",
+        folder / metal.files[0],
         comment,
-        "Copper Wire - U.S. Units (solid, annealed; NEC ampacities 2020 edition)",
+        f"{metal.title} - U.S. Units (solid, {metal.condition}NEC ampacities 2020 edition)",
         [
             size,
             Column(("Diameter", "in")),
@@ -81,9 +120,9 @@ def write(folder):
         us,
     )
     write_table(
-        folder / "CoprWirM.dat",
+        folder / metal.files[1],
         comment,
-        "Copper Wire - Metric Units (solid, annealed; NEC ampacities 2020 edition)",
+        f"{metal.title} - Metric Units (solid, {metal.condition}NEC ampacities 2020 edition)",
         [
             size,
             Column(("Diameter", "mm")),
