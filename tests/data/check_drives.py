@@ -43,7 +43,7 @@ class Chains(unittest.TestCase):
             self.assertEqual(number // 10, 2 if number == 25 else round(pitch * 8), row[0])
             if number in (25, 35, 41):
                 continue  # without rollers, or light
-            self.assertTrue(0.58 < roller / pitch < 0.63, row[0])
+            self.assertTrue(0.58 < roller / pitch < 0.645, row[0])
             self.assertTrue(0.55 < width / pitch < 0.68, row[0])
             self.assertTrue(0.27 < pin / pitch < 0.32, row[0])
             self.assertLess(abs(plate / pitch - 0.125), 0.0051, row[0])
