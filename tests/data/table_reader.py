@@ -1,10 +1,16 @@
 """Reads the files of data/ for the checks beside it, as the program's reader does."""
 
 import re
+from fractions import Fraction
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 DATA = ROOT / "data"
+
+
+def inches(text):
+    """1-3/4 as a number."""
+    return float(sum(Fraction(part) for part in text.split("-")))
 
 
 def fields_of(text):
