@@ -1,9 +1,8 @@
 #include "mechanical/gearcalc.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
-
-#include "mechanical/sketch.h"
 
 namespace korvane {
 namespace {
