@@ -1,5 +1,6 @@
 // The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
-// its pressure drop as the window does it, and the pairs of a catalogue of sheaves.
+// its pressure drop as the window does it, a shaft's diameter from its speed, and the pairs of a
+// catalogue of sheaves.
 
 #include <cmath>
 #include <optional>
@@ -8,6 +9,7 @@
 
 #include "compare.h"
 #include "driver/interpreter.h"
+#include "mechanical/crit_spd.h"
 #include "mechanical/v_belt.h"
 
 namespace korvane {
@@ -90,6 +92,50 @@ void SearchBare() {
 
 void FlowSearch(benchmark::State& state) { CompareTimes(state, 1.5, SearchInWindow, SearchBare); }
 BENCHMARK(FlowSearch)->Unit(benchmark::kMillisecond);
+
+// ---- Critical speed ----
+
+constexpr int kSpeeds = 1000;
+
+/// Speeds for diameters from some 4 to 5 in.
+int TargetSpeed(int search) { return 2000 + search; }
+
+void FindDiameterChecked() {
+  volatile float L = 30, a = 20, E = 30000000, W = 500, tol = 0, k = 2000000;
+  const auto single = [](float value) { return Single(static_cast<double>(value)); };
+  for (int search = 0; search < kSpeeds; ++search) {
+    Single d;
+    StepToSpeed({single(L), single(a), single(E), single(W), single(tol), single(k)}, 1,
+                TargetSpeed(search), d);
+    benchmark::DoNotOptimize(d);
+  }
+}
+
+float BareFindDiameter(float L, float a, float E, float W, float tol, float k, float target) {
+  float d = 0;
+  for (d = 0.25F; d <= 6; d += 0.0625F) {
+    const double weight = 0.284 * 3.1415926 * std::pow(d, 2) / 4;
+    benchmark::DoNotOptimize(weight);
+    const double I = 3.14159265 * std::pow(d, 4) / 64;
+    const double S = W * std::pow(a, 2) * (a + L) / (3 * E * I);
+    const double F = (W / k) * (2 * std::pow(a, 2) + 2 * a * L + std::pow(L, 2)) / std::pow(L, 2);
+    const double B = a * std::tan(2 * tol / L);
+    if (187.8 / std::sqrt(S + F + B) >= target) break;
+  }
+  return d;
+}
+
+void FindDiameterBare() {
+  volatile float L = 30, a = 20, E = 30000000, W = 500, tol = 0, k = 2000000;
+  for (int search = 0; search < kSpeeds; ++search)
+    benchmark::DoNotOptimize(
+        BareFindDiameter(L, a, E, W, tol, k, static_cast<float>(TargetSpeed(search))));
+}
+
+void DiameterSearch(benchmark::State& state) {
+  CompareTimes(state, 1.5, FindDiameterChecked, FindDiameterBare);
+}
+BENCHMARK(DiameterSearch)->Unit(benchmark::kMillisecond);
 
 // ---- Sheaves ----
 

@@ -63,6 +63,66 @@ const Saved kSaved[] = {
      "elbows90,2\r\nelbows90st,3\r\nelbows45,4\r\nelbows45st,5\r\ngvalves,6\r\ngvalves75,7\r\n"
      "gvalves50,8\r\ngvalves25,9\r\nglobes,10\r\nangles,11\r\nbvalves,12\r\nswing_checks,13\r\n"
      "ball_checks,14\r\ntee_run,15\r\ntee_branch,16\r\n"},
+    {"linshaft",
+     "Command2",
+     {"opt_heavy", "chk_keyway", "opt_dia_solve"},
+     {{"txt_L", "1"},
+      {"txt_d", "2"},
+      {"txt_e_tensile", "3"},
+      {"txt_G", "4"},
+      {"txt_J", "5"},
+      {"txt_z", "6"},
+      {"txt_rpm", "7"},
+      {"txt_power", "8"},
+      {"txt_torque", "9"},
+      {"txt_twist", ".10"},
+      {"txt_max_stress", "11"},
+      {"txt_combined_stress", "12"},
+      {"txt_side_load", "13"},
+      {"txt_brg_dist", "14"},
+      {"txt_Bending_torque", "15"},
+      {"txt_defl_mid", "16"},
+      {"txt_side_stress", ""}},
+     "LINESHAFT SIZING\r\nLoad type,Heavy\r\nKeyway SF,Yes\r\nSolve for,Diameter\r\nLength,1\r\n"
+     "Dia,2\r\nE,3\r\nG,4\r\nJ,5\r\nZ,6\r\nRPM,7\r\nHP,8\r\nTorque,9\r\n"
+     "Torsional deflection,.10\r\nMax shear stress,11\r\nMax combined stress,12\r\n"
+     "Total side load,13\r\nBearing distance,14\r\nBending torque,15\r\n"
+     "Midpoint deflection,16\r\nStress at ends,\r\n"},
+    {"linshaft",
+     "Command2",
+     {},
+     {},
+     "LINESHAFT SIZING\r\nLoad type,Steady\r\nKeyway SF,No\r\nSolve for,Stress\r\nLength,\r\n"
+     "Dia,\r\nE,30000000\r\nG,11500000\r\nJ,\r\nZ,\r\nRPM,\r\nHP,\r\nTorque,\r\n"
+     "Torsional deflection,\r\nMax shear stress,\r\nMax combined stress,\r\n"
+     "Total side load,\r\nBearing distance,\r\nBending torque,\r\n"
+     "Midpoint deflection,\r\nStress at ends,\r\n"},
+    {"crit_spd",
+     "Command4",
+     {},
+     {{"txt_brg_spacing", "1"},
+      {"txt_overhang", "2"},
+      {"txt_shaft_dia", "3"},
+      {"txt_shaft_weight", "4"},
+      {"txt_moment_i", ".5"},
+      {"txt_impeller_wt", "6"}},
+     "CRITICAL SPEED\r\nBearing spacing,1\r\nOverhang,2\r\nShaft dia,3\r\nShaft weight,4\r\n"
+     "Moment of inertia,.5\r\nElastic modulus,30000000\r\nImpeller weight,6\r\n"
+     "Bearing tolerance,0\r\nSupport spring constant,2000000\r\n"},
+    {"torsion",
+     "Command6",
+     {},
+     {{"txt_L", "1"},
+      {"txt_d", "2"},
+      {"txt_RPM", "3"},
+      {"txt_power", "4"},
+      {"txt_torque", "5"},
+      {"txt_J", "6"},
+      {"txt_z", "7"},
+      {"txt_twist", "8"},
+      {"txt_max_stress", "9"}},
+     "TORSIONAL DEFLECTION\r\nLength,1\r\nDiameter,2\r\nG,11500000\r\nRPM,3\r\nHP,4\r\n"
+     "Torque,5\r\nJ,6\r\nZ,7\r\nDeflection,8\r\nMax stress,9\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

@@ -58,6 +58,13 @@ Record WordRecord(std::string label, const std::vector<Word>& words) {
   return {std::move(label), std::move(value), std::move(accept)};
 }
 
+Record CheckRecord(std::string label, CheckBox& check) {
+  return {std::move(label), [&check] { return check.IsOn() ? "Yes" : "No"; },
+          [&check](const std::string& text) {
+            if (text == "Yes" || text == "No") check.Set(text == "Yes");
+          }};
+}
+
 void SaveData(Session& session, const DataFile& data) {
   const auto path = ChooseFile(session, data, FileDialog::Action::Save, "Save as...");
   if (!path) return;

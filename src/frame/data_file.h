@@ -35,6 +35,8 @@ struct Word {
   std::string word;
 };
 Record WordRecord(std::string label, const std::vector<Word>& words);
+/// "Yes" or "No"; another word leaves the mark as it is.
+Record CheckRecord(std::string label, CheckBox& check);
 
 struct DataFile {
   std::string signature;

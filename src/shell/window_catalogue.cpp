@@ -8,6 +8,11 @@
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
 #include "math/triangle.h"
+#include "mechanical/crit_spd.h"
+#include "mechanical/gearcalc.h"
+#include "mechanical/hp_torque.h"
+#include "mechanical/linshaft.h"
+#include "mechanical/torsion.h"
 #include "mechanical/v_belt.h"
 #include "shell/check_for_updates.h"
 #include "shell/folder_browser.h"
@@ -46,6 +51,11 @@ constexpr WindowUnit kUnits[] = {
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
     {"V_BELT", Make<V_BELT>},
+    {"linshaft", Make<linshaft>},
+    {"crit_spd", Make<crit_spd>},
+    {"torsion", Make<torsion>},
+    {"HP_TORQUE", Make<HP_TORQUE>},
+    {"GearCalc", Make<GearCalc>},
     // Stress
     {"beams", Make<beams>},
 };
