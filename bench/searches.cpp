@@ -106,7 +106,7 @@ void FindDiameterChecked() {
   for (int search = 0; search < kSpeeds; ++search) {
     Single d;
     StepToSpeed({single(L), single(a), single(E), single(W), single(tol), single(k)}, 1,
-                TargetSpeed(search), d);
+                TargetSpeed(search), [&d](Single trial) { d = trial; });
     benchmark::DoNotOptimize(d);
   }
 }

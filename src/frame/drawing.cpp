@@ -15,4 +15,32 @@ std::vector<Point> Arc(Point center, double radius, double from, double to) {
   return points;
 }
 
+void AddBox(Drawing& drawing, Point corner, Point opposite) {
+  drawing.shapes.emplace_back(
+      Path{{corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}, corner},
+           Ink::Line,
+           Ink::Body});
+}
+
+void AddArrow(Drawing& drawing, Point from, Point to, Ink ink) {
+  constexpr double size = 6;
+  const double length = std::hypot(to.x - from.x, to.y - from.y);
+  const double x = (to.x - from.x) / length * size;
+  const double y = (to.y - from.y) / length * size;
+  drawing.shapes.emplace_back(Path{{from, to}, ink, {}, 1.5});
+  drawing.shapes.emplace_back(
+      Path{{{to.x - x - y / 2, to.y - y + x / 2}, to, {to.x - x + y / 2, to.y - y - x / 2}},
+           ink,
+           {},
+           1.5});
+}
+
+void AddMeasure(Drawing& drawing, double left, double right, double y, const char* letters) {
+  const double middle = (left + right) / 2;
+  constexpr double gap = 9;  // for the letters
+  AddArrow(drawing, {middle - gap, y}, {left, y}, Ink::Line);
+  AddArrow(drawing, {middle + gap, y}, {right, y}, Ink::Line);
+  drawing.shapes.emplace_back(Letters{{middle, y}, letters, 9, Ink::Line});
+}
+
 }  // namespace korvane

@@ -55,4 +55,10 @@ struct Drawing {
 /// Points of an arc about a centre; angles in degrees, counted clockwise from the right.
 std::vector<Point> Arc(Point center, double radius, double from, double to);
 
+// Parts that drawings share.
+void AddBox(Drawing& drawing, Point corner, Point opposite);
+void AddArrow(Drawing& drawing, Point from, Point to, Ink ink = Ink::Accent);
+/// A measure between two places at one height, with its letters in the middle.
+void AddMeasure(Drawing& drawing, double left, double right, double y, const char* letters);
+
 }  // namespace korvane

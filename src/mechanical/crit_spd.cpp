@@ -1,15 +1,12 @@
 #include "mechanical/crit_spd.h"
 
-#include "mechanical/sketch.h"
+#include "mechanical/shaft_sketch.h"
 
 namespace korvane {
 namespace {
 
 constexpr double kSteel = 0.284;       // lb/in3
 constexpr double kMaximumShare = 0.8;  // of the critical speed
-constexpr double kThinnest = 0.25;     // in, and so the two below
-constexpr int kThickest = 6;
-constexpr double kStep = 0.0625;
 
 Double Square(Double x) { return x * x; }
 
@@ -46,17 +43,6 @@ Double CriticalSpeed(Double deflection) { return 187.8 / Sqrt(deflection); }
 Double ShaftWeight(Single d) { return kSteel * 3.1415926 * Square(d) / 4; }
 
 Double ShaftInertia(Single d) { return 3.14159265 * Square(Square(d)) / 64; }
-
-// Only the bending of the shaft follows its diameter.
-void StepToSpeed(const OverhungShaft& shaft, double share, Single wanted, Single& d) {
-  d = kThinnest;
-  const Double F = SupportFlexure(shaft);
-  const Double B = BearingEccentricity(shaft);
-  const auto speed = [&] {
-    return share * CriticalSpeed(StaticDeflection(shaft, ShaftInertia(d)) + F + B);
-  };
-  while (speed() < wanted && d < kThickest) d += kStep;
-}
 
 crit_spd::crit_spd(Session& session)
     : CalculatorWindow(session, {.name = "crit_spd",
@@ -153,16 +139,10 @@ void crit_spd::FindDiameter(const TextField& target, double share) {
   const Single wanted = ToNumber(target);
   const OverhungShaft shaft = Shaft();
   Single d;
-  {
-    // Each trial stands in the field, but the search ends before anyone could look at one: the last
-    // is written, whatever ends the search.
-    struct ShowsTrial {
-      UsField& field;
-      const Single& d;
-      ~ShowsTrial() { field.ShowUs(d, "#.####"); }
-    } const trial{txt_shaft_dia, d};
-    StepToSpeed(shaft, share, wanted, d);
-  }
+  StepToSpeed(shaft, share, wanted, [&](Single trial) {
+    d = trial;
+    txt_shaft_dia.ShowUs(d, "#.####");
+  });
   ShowResults(shaft, d);
 }
 

@@ -29,8 +29,18 @@ Double ShaftWeight(Single d);   ///< of steel, lb/in
 Double ShaftInertia(Single d);  ///< in4
 
 /// Steps the diameter from 0.25 to 6 in by sixteenths until the share of the critical speed is the
-/// wanted speed or more. What it has come to stays in `d`, after a failure too.
-void StepToSpeed(const OverhungShaft& shaft, double share, Single wanted, Single& d);
+/// wanted speed or more, and tells `see` each one.
+template <class See>
+void StepToSpeed(const OverhungShaft& shaft, double share, Single wanted, See see) {
+  constexpr double thinnest = 0.25, step = 0.0625;
+  constexpr int thickest = 6;
+  for (Single d = thinnest; d <= thickest; d += step) {
+    see(d);
+    const Double deflection = StaticDeflection(shaft, ShaftInertia(d)) + SupportFlexure(shaft) +
+                              BearingEccentricity(shaft);
+    if (share * CriticalSpeed(deflection) >= wanted) return;
+  }
+}
 
 class crit_spd final : public CalculatorWindow {
  public:

@@ -1,6 +1,6 @@
 #include "mechanical/linshaft.h"
 
-#include "mechanical/sketch.h"
+#include "mechanical/shaft_sketch.h"
 
 namespace korvane {
 namespace {

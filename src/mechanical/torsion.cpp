@@ -1,6 +1,6 @@
 #include "mechanical/torsion.h"
 
-#include "mechanical/sketch.h"
+#include "mechanical/shaft_sketch.h"
 
 namespace korvane {
 namespace {
