@@ -63,6 +63,28 @@ const Saved kSaved[] = {
      "elbows90,2\r\nelbows90st,3\r\nelbows45,4\r\nelbows45st,5\r\ngvalves,6\r\ngvalves75,7\r\n"
      "gvalves50,8\r\ngvalves25,9\r\nglobes,10\r\nangles,11\r\nbvalves,12\r\nswing_checks,13\r\n"
      "ball_checks,14\r\ntee_run,15\r\ntee_branch,16\r\n"},
+    {"columns2",
+     "Command1",
+     {"opt_pinned_pinned", "opt_conservative", "opt_euler_adjusted"},
+     {{"txt_length", ""},
+      {"txt_yield", "36,000"},
+      {"txt_E", "2.9e7"},
+      {"txt_I", ".1"},
+      {"txt_area", "2."},
+      {"txt_rad_gyr", "x"},
+      {"txt_safety_factor", "3"},
+      {"txt_k", "1.10"}},
+     "COLUMNS\r\nLength,\r\nYield,36,000\r\nE,2.9e7\r\nI,.1\r\nArea,2.\r\n"
+     "Radius of gyration,x\r\nSafety factor,3\r\nEnd conditions,Pinned - Pinned\r\n"
+     "K Factor Option,Conservative\r\nEffective Length Constant,1.10\r\n"
+     "Formula,Euler (Adjusted)\r\n"},
+    {"columns2",
+     "Command1",
+     {"opt_fixed_pinned", "opt_engineering", "opt_euler"},
+     {},
+     "COLUMNS\r\nLength,\r\nYield,36000\r\nE,29000000\r\nI,.0873\r\nArea,.4939\r\n"
+     "Radius of gyration,.4205\r\nSafety factor,5\r\nEnd conditions,Fixed - Pinned\r\n"
+     "K Factor Option,Engineering\r\nEffective Length Constant,0.8\r\nFormula,Euler\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

@@ -15,6 +15,7 @@
 #include "shell/mainform.h"
 #include "shell/splash.h"
 #include "stress/beams.h"
+#include "stress/columns2.h"
 
 namespace korvane {
 namespace {
@@ -48,6 +49,7 @@ constexpr WindowUnit kUnits[] = {
     {"V_BELT", Make<V_BELT>},
     // Stress
     {"beams", Make<beams>},
+    {"columns2", Make<columns2>},
 };
 
 }  // namespace
