@@ -85,6 +85,21 @@ const Saved kSaved[] = {
      "COLUMNS\r\nLength,\r\nYield,36000\r\nE,29000000\r\nI,.0873\r\nArea,.4939\r\n"
      "Radius of gyration,.4205\r\nSafety factor,5\r\nEnd conditions,Fixed - Pinned\r\n"
      "K Factor Option,Engineering\r\nEffective Length Constant,0.8\r\nFormula,Euler\r\n"},
+    {"Plate_Deflection",
+     "txt_save",
+     {"opt_fixed", "opt_uniform"},
+     {{"txt_long_side", "20."}, {"txt_short_side", ".5"}, {"txt_unit_load", "7"}},
+     "PLATES\r\nLong Side,20.\r\nShort Side,.5\r\nDiameter,\r\nPlate Thickness,0.157\r\n"
+     "Elastic Modulus,30000000\r\nPoisson's Ratio,0.3\r\nPlate Density,\r\nTotal Load,\r\n"
+     "Unit Load,7\r\nPlate Type,Rectangular\r\nSupport Type,Fixed\r\nLoad Type,Uniform\r\n"},
+    {"Plate_Deflection",
+     "txt_save",
+     {"opt_circular", "opt_concentrated"},
+     {},
+     "PLATES\r\nLong Side,18\r\nShort Side,18\r\nDiameter,\r\nPlate Thickness,0.157\r\n"
+     "Elastic Modulus,30000000\r\nPoisson's Ratio,0.3\r\nPlate Density,\r\nTotal Load,100\r\n"
+     "Unit Load,0.392975\r\nPlate Type,Circular\r\nSupport Type,Simple\r\n"
+     "Load Type,Concentrated\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

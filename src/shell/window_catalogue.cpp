@@ -16,6 +16,7 @@
 #include "shell/splash.h"
 #include "stress/beams.h"
 #include "stress/columns2.h"
+#include "stress/plate_deflection.h"
 
 namespace korvane {
 namespace {
@@ -50,6 +51,7 @@ constexpr WindowUnit kUnits[] = {
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},
+    {"Plate_Deflection", Make<Plate_Deflection>},
 };
 
 }  // namespace

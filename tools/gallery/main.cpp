@@ -58,6 +58,7 @@ const std::vector<Example>& Examples() {
         {"txt_rad_gyr", "10.68"}},
        "txt_length",
        {"opt_fixed_pinned", "opt_engineering"}},
+      {"Plate_Deflection", {{"txt_long_side", "24"}}, {{"txt_long_side", "600"}}, "txt_long_side"},
       {"OHMS_LAW",
        {{"Text1", "2"}, {"Text2", "3"}},
        {{"Text1", "2"}, {"Text2", "3"}},
