@@ -100,6 +100,12 @@ const Saved kSaved[] = {
      "Elastic Modulus,30000000\r\nPoisson's Ratio,0.3\r\nPlate Density,\r\nTotal Load,100\r\n"
      "Unit Load,0.392975\r\nPlate Type,Circular\r\nSupport Type,Simple\r\n"
      "Load Type,Concentrated\r\n"},
+    {"MOMENT_I",
+     "btn_save",
+     {"Option7"},
+     {{"T1", ".5"}, {"T3", "2."}},
+     "MOMENT OF INERTIA\r\nX-section option,Option7\r\nDIM1,.5\r\nDIM2,\r\nDIM3,2.\r\n"
+     "DIM4,\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

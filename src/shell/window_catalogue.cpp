@@ -16,6 +16,7 @@
 #include "shell/splash.h"
 #include "stress/beams.h"
 #include "stress/columns2.h"
+#include "stress/moment_i.h"
 #include "stress/plate_deflection.h"
 
 namespace korvane {
@@ -52,6 +53,7 @@ constexpr WindowUnit kUnits[] = {
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},
     {"Plate_Deflection", Make<Plate_Deflection>},
+    {"MOMENT_I", Make<MOMENT_I>},
 };
 
 }  // namespace
