@@ -35,7 +35,7 @@ constexpr double fourPi = 12.56637061436;
 constexpr double eightPi = 25.13274122872;
 constexpr double sixteenPi = 50.26548245744;
 
-// Formulas of Timoshenko and Roark for the greatest stress and the deflection at the center; P is
+// Formulas of Timoshenko and Roark for the bending stress and the deflection at the center; P is
 // the total load, q the load per area.
 
 // ---- Rectangular plates: fits of tables for a Poisson's ratio of 0.3 ----
@@ -74,6 +74,8 @@ Double EquivalentRadius(Single t) {
   return Sqrt(1.6 * Power(loadRadius, 2) + Power(t, 2)) - 0.675 * t;
 }
 
+/// Under a load at the center it is the stress at the long edges of a fixed plate; for a supported
+/// one the formula has a 1 where the books have m.
 Double RectangleStress(const FlatPlate& plate, Single P, Double q) {
   const Single f = plate.ratio, b = plate.side, t = plate.thickness, m = plate.m;
   if (!plate.concentrated) return kUniformStress[plate.fixed].At(f) * q * Power(b, 2) / Power(t, 2);
