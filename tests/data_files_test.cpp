@@ -123,6 +123,49 @@ const Saved kSaved[] = {
       {"txt_max_stress", "9"}},
      "TORSIONAL DEFLECTION\r\nLength,1\r\nDiameter,2\r\nG,11500000\r\nRPM,3\r\nHP,4\r\n"
      "Torque,5\r\nJ,6\r\nZ,7\r\nDeflection,8\r\nMax stress,9\r\n"},
+    {"columns2",
+     "Command1",
+     {"opt_pinned_pinned", "opt_conservative", "opt_euler_adjusted"},
+     {{"txt_length", ""},
+      {"txt_yield", "36,000"},
+      {"txt_E", "2.9e7"},
+      {"txt_I", ".1"},
+      {"txt_area", "2."},
+      {"txt_rad_gyr", "x"},
+      {"txt_safety_factor", "3"},
+      {"txt_k", "1.10"}},
+     "COLUMNS\r\nLength,\r\nYield,36,000\r\nE,2.9e7\r\nI,.1\r\nArea,2.\r\n"
+     "Radius of gyration,x\r\nSafety factor,3\r\nEnd conditions,Pinned - Pinned\r\n"
+     "K Factor Option,Conservative\r\nEffective Length Constant,1.10\r\n"
+     "Formula,Euler (Adjusted)\r\n"},
+    {"columns2",
+     "Command1",
+     {"opt_fixed_pinned", "opt_engineering", "opt_euler"},
+     {},
+     "COLUMNS\r\nLength,\r\nYield,36000\r\nE,29000000\r\nI,.0873\r\nArea,.4939\r\n"
+     "Radius of gyration,.4205\r\nSafety factor,5\r\nEnd conditions,Fixed - Pinned\r\n"
+     "K Factor Option,Engineering\r\nEffective Length Constant,0.8\r\nFormula,Euler\r\n"},
+    {"Plate_Deflection",
+     "txt_save",
+     {"opt_fixed", "opt_uniform"},
+     {{"txt_long_side", "20."}, {"txt_short_side", ".5"}, {"txt_unit_load", "7"}},
+     "PLATES\r\nLong Side,20.\r\nShort Side,.5\r\nDiameter,\r\nPlate Thickness,0.157\r\n"
+     "Elastic Modulus,30000000\r\nPoisson's Ratio,0.3\r\nPlate Density,\r\nTotal Load,\r\n"
+     "Unit Load,7\r\nPlate Type,Rectangular\r\nSupport Type,Fixed\r\nLoad Type,Uniform\r\n"},
+    {"Plate_Deflection",
+     "txt_save",
+     {"opt_circular", "opt_concentrated"},
+     {},
+     "PLATES\r\nLong Side,18\r\nShort Side,18\r\nDiameter,\r\nPlate Thickness,0.157\r\n"
+     "Elastic Modulus,30000000\r\nPoisson's Ratio,0.3\r\nPlate Density,\r\nTotal Load,100\r\n"
+     "Unit Load,0.392975\r\nPlate Type,Circular\r\nSupport Type,Simple\r\n"
+     "Load Type,Concentrated\r\n"},
+    {"MOMENT_I",
+     "btn_save",
+     {"Option7"},
+     {{"T1", ".5"}, {"T3", "2."}},
+     "MOMENT OF INERTIA\r\nX-section option,Option7\r\nDIM1,.5\r\nDIM2,\r\nDIM3,2.\r\n"
+     "DIM4,\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

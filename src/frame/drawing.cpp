@@ -1,12 +1,14 @@
 #include "frame/drawing.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
 namespace korvane {
 
 std::vector<Point> Arc(Point center, double radius, double from, double to) {
-  constexpr int steps = 24;
+  // A full circle needs more steps than a quarter to look round.
+  const int steps = std::max(24, static_cast<int>(std::abs(to - from) / 4));
   std::vector<Point> points;
   for (int i = 0; i <= steps; ++i) {
     const double angle = (from + (to - from) * i / steps) * std::numbers::pi / 180;

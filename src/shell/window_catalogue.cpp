@@ -20,6 +20,9 @@
 #include "shell/mainform.h"
 #include "shell/splash.h"
 #include "stress/beams.h"
+#include "stress/columns2.h"
+#include "stress/moment_i.h"
+#include "stress/plate_deflection.h"
 
 namespace korvane {
 namespace {
@@ -58,6 +61,9 @@ constexpr WindowUnit kUnits[] = {
     {"GearCalc", Make<GearCalc>},
     // Stress
     {"beams", Make<beams>},
+    {"columns2", Make<columns2>},
+    {"Plate_Deflection", Make<Plate_Deflection>},
+    {"MOMENT_I", Make<MOMENT_I>},
 };
 
 }  // namespace

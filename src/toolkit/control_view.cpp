@@ -88,7 +88,8 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
     }
     shown_.setReadOnly(model_.IsLocked() || model_.IsResult());
     shown_.setAccessibleName(NameOf(model_, shown_));
-    if (model_.TakeSelectAll()) shown_.selectAll();
+    // A field that the focus has left in the meantime shows no selection.
+    if (model_.TakeSelectAll() && model_.HasFocus()) shown_.selectAll();
   }
 };
 
