@@ -8,6 +8,7 @@
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
 #include "math/triangle.h"
+#include "mechanical/sprocket.h"
 #include "mechanical/v_belt.h"
 #include "shell/check_for_updates.h"
 #include "shell/folder_browser.h"
@@ -45,6 +46,7 @@ constexpr WindowUnit kUnits[] = {
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
+    {"SPROCKET", Make<SPROCKET>},
     {"V_BELT", Make<V_BELT>},
     // Stress
     {"beams", Make<beams>},
