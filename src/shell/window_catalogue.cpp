@@ -8,6 +8,7 @@
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
 #include "math/triangle.h"
+#include "mechanical/conveyor.h"
 #include "mechanical/sprocket.h"
 #include "mechanical/v_belt.h"
 #include "shell/check_for_updates.h"
@@ -46,6 +47,7 @@ constexpr WindowUnit kUnits[] = {
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
+    {"CONVEYOR", Make<CONVEYOR>},
     {"SPROCKET", Make<SPROCKET>},
     {"V_BELT", Make<V_BELT>},
     // Stress
