@@ -24,6 +24,7 @@ const RollerChain* FindChain(Single size) {
 
 std::vector<std::string> ChainSizes() {
   std::vector<std::string> sizes;
+  sizes.reserve(kRollerChains.size());
   for (const RollerChain& chain : kRollerChains) sizes.push_back(std::to_string(chain.size));
   return sizes;
 }

@@ -102,16 +102,16 @@ std::vector<Point> HalfTooth(const ToothForm& form) {
 std::vector<Point> Outline(const ToothForm& form, Single teeth) {
   if (teeth > kMostDrawn) return Arc({0, 0}, form.outsideRadius.Value(), 0, 360);
   const std::vector<Point> half = HalfTooth(form);
-  std::vector<Point> points;
-  const auto add = [&points](Point spot, double turn) {
-    const double x = spot.x * std::cos(turn) + spot.y * std::sin(turn);
-    points.push_back({x, spot.y * std::cos(turn) - spot.x * std::sin(turn)});
-  };
+  std::vector<Point> gap(half.rbegin(), half.rend());
+  for (Point& spot : gap) spot.x = -spot.x;
+  gap.insert(gap.end(), half.begin(), half.end());
   const auto count = static_cast<int>(teeth.Value());
+  std::vector<Point> points;
   for (int tooth = 0; tooth < count; ++tooth) {
     const double turn = tooth * 2 * std::numbers::pi / count;
-    for (auto spot = half.rbegin(); spot != half.rend(); ++spot) add({-spot->x, spot->y}, turn);
-    for (const Point& spot : half) add(spot, turn);
+    for (const Point& spot : gap)
+      points.push_back({spot.x * std::cos(turn) + spot.y * std::sin(turn),
+                        spot.y * std::cos(turn) - spot.x * std::sin(turn)});
   }
   points.push_back(points.front());
   return points;
@@ -131,7 +131,7 @@ Drawing SprocketPicture(const ToothForm& form, double roller, Single teeth, doub
   const std::vector<Point> outline = Outline(form, teeth);
   std::vector<Point> body = outline;
   if (bore > 0 && bore / 2 < form.RootRadius().Value()) {
-    const std::vector<Point> hole = Arc({0, 0}, bore / 2, 360, 0);
+    const std::vector<Point> hole = Arc({0, 0}, bore / 2, 450, 90);  // from its top
     body.insert(body.end(), hole.begin(), hole.end());
     add(body, Ink::Body, Ink::Body);
     add(hole, Ink::Line);
