@@ -1,6 +1,6 @@
 // The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
-// its pressure drop as the window does it, a shaft's diameter from its speed, and the pairs of a
-// catalogue of sheaves.
+// its pressure drop as the window does it, a shaft's diameter from its speed or its stress, and the
+// pairs of a catalogue of sheaves.
 
 #include <cmath>
 #include <optional>
@@ -9,6 +9,7 @@
 
 #include "compare.h"
 #include "driver/interpreter.h"
+#include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/v_belt.h"
 
@@ -200,6 +201,47 @@ void WalkBare() {
 
 void SheaveSearch(benchmark::State& state) { CompareTimes(state, 1.5, WalkChecked, WalkBare); }
 BENCHMARK(SheaveSearch)->Unit(benchmark::kMillisecond);
+
+// ---- Shafts ----
+
+constexpr int kShafts = 2000;
+
+/// Stresses in psi, for diameters from some 1 to 5 in.
+int TargetStress(int shaft) { return 100 + 5 * shaft; }
+
+void ShaftsChecked() {
+  volatile double moment = 2000;
+  for (int shaft = 0; shaft < kShafts; ++shaft) {
+    int trials = 0;
+    benchmark::DoNotOptimize(FindDiameter(Double(moment), 0.75, TargetStress(shaft),
+                                          [&trials](Double, bool last) { trials += last; }));
+    benchmark::DoNotOptimize(trials);
+  }
+}
+
+void ShaftsBare() {
+  volatile double given = 2000;
+  for (int shaft = 0; shaft < kShafts; ++shaft) {
+    const double moment = given;
+    int trials = 0;
+    double d = 0;
+    double start = 0.1;
+    for (const double step : {0.1, 0.01, 0.0001}) {
+      if (start == 0) start = step;
+      for (double trial = start; trial <= 6; trial += step) {
+        d = trial;
+        trials += step == 0.0001;
+        if (5.1 * moment / (d * d * d * 0.75) <= TargetStress(shaft)) break;
+      }
+      start = d - step;
+    }
+    benchmark::DoNotOptimize(d);
+    benchmark::DoNotOptimize(trials);
+  }
+}
+
+void ShaftSearch(benchmark::State& state) { CompareTimes(state, 1.5, ShaftsChecked, ShaftsBare); }
+BENCHMARK(ShaftSearch)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace korvane

@@ -18,6 +18,50 @@ struct Saved {
 void PrintTo(const Saved& saved, std::ostream* out) { *out << saved.window; }
 
 const Saved kSaved[] = {
+    {"CONVEYOR",
+     "Command1",
+     {},
+     {},
+     "CONVEYORS\r\nLength,216\r\nWidth,24\r\nBelt weight,2.2\r\nFriction,.35\r\n"
+     "Conveyor sprocket dia,6.16\r\nBelt speed,60\r\nProduct weight,1000\r\n"
+     "Load type,Steady load\r\nDrive type,Chain\r\nChain size,40\r\n"
+     "Headshaft sprocket teeth,36\r\nGearbox sprocket teeth,12\r\nOperating temp,350\r\n"
+     "Expansion coef,.00000633\r\nShaft diameter,1\r\nCombined stress,9448\r\n"
+     "Solve for,Stress\r\nUse SF,No\r\n"},
+    {"CONVEYOR",
+     "Command1",
+     {"opt_minor", "chk_keyway", "opt_dia_solve"},
+     {{"txt_headshaft_dia", "1.250"},
+      {"txt_combined_stress", " 7000."},
+      {"CMB_RC", ""},
+      {"cmb_headshaft_TEETH", "1"},
+      {"cmb_gearbox_teeth", "2"},
+      {"txt_belt_speed", "speed"}},
+     "CONVEYORS\r\nLength,216\r\nWidth,24\r\nBelt weight,2.2\r\nFriction,.35\r\n"
+     "Conveyor sprocket dia,6.16\r\nBelt speed,speed\r\nProduct weight,1000\r\n"
+     "Load type,Minor shocks\r\nDrive type,Chain\r\nChain size,3\r\n"
+     "Headshaft sprocket teeth,1\r\nGearbox sprocket teeth,2\r\nOperating temp,350\r\n"
+     "Expansion coef,.00000633\r\nShaft diameter,1.250\r\nCombined stress, 7000.\r\n"
+     "Solve for,Dia\r\nUse SF,Yes\r\n"},
+    {"CONVEYOR",
+     "Command1",
+     {"opt_heavy", "opt_direct_drive"},
+     {{"txt_Conveyor_Length", "1"},
+      {"txt_Belt_Width", "2"},
+      {"txt_belt_weight", "3"},
+      {"txt_friction_coef", "4"},
+      {"txt_conv_sprocket_dia", "5"},
+      {"txt_belt_speed", "6"},
+      {"txt_product_weight", "7"},
+      {"txt_operating_temp", "8"},
+      {"txt_expansion_coef", "9"},
+      {"txt_headshaft_dia", "10"},
+      {"txt_combined_stress", "11"}},
+     "CONVEYORS\r\nLength,1\r\nWidth,2\r\nBelt weight,3\r\nFriction,4\r\n"
+     "Conveyor sprocket dia,5\r\nBelt speed,6\r\nProduct weight,7\r\nLoad type,Heavy shocks\r\n"
+     "Drive type,Direct\r\nChain size,40\r\nHeadshaft sprocket teeth,36\r\n"
+     "Gearbox sprocket teeth,12\r\nOperating temp,8\r\nExpansion coef,9\r\n"
+     "Shaft diameter,10\r\nCombined stress,11\r\nSolve for,Stress\r\nUse SF,No\r\n"},
     {"beams",
      "Command4",
      {"rigid", "conc"},

@@ -8,10 +8,12 @@
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
 #include "math/triangle.h"
+#include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/gearcalc.h"
 #include "mechanical/hp_torque.h"
 #include "mechanical/linshaft.h"
+#include "mechanical/sprocket.h"
 #include "mechanical/torsion.h"
 #include "mechanical/v_belt.h"
 #include "shell/check_for_updates.h"
@@ -53,6 +55,8 @@ constexpr WindowUnit kUnits[] = {
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
+    {"CONVEYOR", Make<CONVEYOR>},
+    {"SPROCKET", Make<SPROCKET>},
     {"V_BELT", Make<V_BELT>},
     {"linshaft", Make<linshaft>},
     {"crit_spd", Make<crit_spd>},

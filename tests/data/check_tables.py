@@ -18,7 +18,7 @@ from table_reader import DATA, ROOT, Table, fields_of, lines_of
 GENERATE = ROOT / "tools" / "tables" / "generate.py"
 
 # Files of records that calculators read themselves, so not laid out for the table viewer.
-RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat"}
+RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat"}
 
 
 class Pair:
@@ -689,3 +689,29 @@ class Motors(unittest.TestCase):
                     self.assertLess(abs(float(iec[n]) - float(nema[n])), 2.3, (iec[0], n))
             self.assertLess(abs(float(iec[1]) - float(nema[1])), 9.1, iec[0])
 
+
+class Sprockets(unittest.TestCase):
+    PITCHES = {25: 0.25, 35: 0.375, 41: 0.5, 40: 0.5, 50: 0.625, 60: 0.75, 80: 1, 100: 1.25,
+               120: 1.5, 140: 1.75, 160: 2}
+
+    def test_hubs_fit_under_the_chain_and_bores_into_the_hubs(self):
+        seen, before = set(), None
+        for line in lines_of("SPROCKET.dat")[:-1]:
+            chain, teeth, bore, length, hub = map(float, line.split(","))
+            with self.subTest(chain=chain, teeth=teeth):
+                pitch = self.PITCHES[chain]
+                # The side plates of the chain must clear the hub, by B29.1.
+                self.assertLessEqual(hub, pitch * (1 / math.tan(math.pi / teeth) - 1) - 0.03)
+                self.assertLess(bore / hub, 0.7)
+                self.assertGreaterEqual((hub - bore) / 2, 0.05)
+                self.assertGreater(length, 0.6 * pitch)
+                for size in (bore, length, hub):
+                    self.assertEqual(size * 16 % 1, 0)
+                if before and before[0] == chain:
+                    for was, now in zip(before[1:], (teeth, bore, length, hub), strict=True):
+                        self.assertLessEqual(was, now)
+            seen.add((chain, teeth))
+            before = (chain, teeth, bore, length, hub)
+        for chain in self.PITCHES:
+            for teeth in (9, 12, 15, 18, 24, 30, 36, 48, 60):
+                self.assertIn((chain, teeth), seen)
