@@ -114,7 +114,7 @@ CONVEYOR::CONVEYOR(Session& session)
             TextRecord("Shaft diameter", txt_headshaft_dia),
             TextRecord("Combined stress", txt_combined_stress),
             WordRecord("Solve for", {{opt_stress_solve, "Stress"}, {opt_dia_solve, "Dia"}}),
-            KeywayRecord()},
+            CheckRecord("Use SF", chk_keyway)},
            [this] {
              ChainUpdate();
              Calculate();
@@ -199,13 +199,6 @@ Record CONVEYOR::ListRecord(std::string label, Combo& list, std::string ifEmpty)
       std::move(label),
       [&list, ifEmpty = std::move(ifEmpty)] { return list.Text().empty() ? ifEmpty : list.Text(); },
       [&list](const std::string& text) { list.SetText(text); }};
-}
-
-Record CONVEYOR::KeywayRecord() {
-  return {"Use SF", [this] { return std::string(chk_keyway.IsOn() ? "Yes" : "No"); },
-          [this](const std::string& text) {
-            if (text == "Yes" || text == "No") chk_keyway.Set(text == "Yes");
-          }};
 }
 
 // ---- Choices ----

@@ -59,7 +59,6 @@ class CONVEYOR final : public CalculatorWindow {
   Layout Arrangement() override;
 
   static Record ListRecord(std::string label, Combo& list, std::string ifEmpty = "");
-  Record KeywayRecord();
 
   void FollowDrive();
   void ChooseDiameterSolve();
