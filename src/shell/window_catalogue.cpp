@@ -14,6 +14,8 @@
 #include "shell/help.h"
 #include "shell/mainform.h"
 #include "shell/splash.h"
+#include "stress/beam_calc.h"
+#include "stress/beam_selector.h"
 #include "stress/beams.h"
 
 namespace korvane {
@@ -48,6 +50,8 @@ constexpr WindowUnit kUnits[] = {
     {"V_BELT", Make<V_BELT>},
     // Stress
     {"beams", Make<beams>},
+    {"Beam_Calc", Make<Beam_Calc>},
+    {"Beam_Selector", Make<Beam_Selector>, /*modal=*/true},
 };
 
 }  // namespace
