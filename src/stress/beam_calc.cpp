@@ -13,6 +13,8 @@ constexpr double kPictureWidth = 500;
 constexpr double kPictureHeight = 240;
 constexpr double kMargin = 400 * 96 / 1440.0;
 
+Drawing Blank() { return {kPictureWidth, kPictureHeight, {}}; }
+
 constexpr double kNewtonMeters = 0.001;  // in a newton millimetre
 
 }  // namespace
@@ -43,6 +45,7 @@ Beam_Calc::Beam_Calc(Session& session)
                                  .title = "Stress and Deflection of Beams",
                                  .helpPage = "mechanical_beams_2.html"}) {
   lbl_description.MakeHeading();
+  Picture1.Draw(Blank());
   Texts(0).SetText("0");
   const auto movesTo = [this](TextField& from, TextField& to) {
     from.onEnter = [this, &to] {
@@ -100,7 +103,7 @@ void Beam_Calc::SelectCase() {
   Session& session = GetSession();
   HideFields();
   txt_stress.Clear();
-  Picture1.Draw({kPictureWidth, kPictureHeight, {}});
+  Picture1.Draw(Blank());
   const Color back = lbl_description.Back();
   lbl_description.SetBack(Color::Rgb(0xFFFF00));
   lbl_description.SetCaption("I N I T I A L I Z I N G      B E A M      S E L E C T O R");

@@ -1,7 +1,6 @@
 // The 32 cases of Beams II: supports and loading, captions and formulas.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
