@@ -245,7 +245,8 @@ void Session::PrintWindow(Window& window) {
 Session::Hold::~Hold() {
   if (--session_.holds_ > 0) return;
   session_.gone_.clear();
-  if (session_.windows_.empty()) session_.platform_.LastWindowClosed();
+  // A hidden window, such as a palette that waits to be shown again, keeps nothing going.
+  if (session_.Windows().empty()) session_.platform_.LastWindowClosed();
 }
 
 }  // namespace korvane

@@ -21,6 +21,8 @@
 #include "shell/help.h"
 #include "shell/mainform.h"
 #include "shell/splash.h"
+#include "stress/beam_calc.h"
+#include "stress/beam_selector.h"
 #include "stress/beams.h"
 #include "stress/columns2.h"
 #include "stress/moment_i.h"
@@ -68,6 +70,8 @@ constexpr WindowUnit kUnits[] = {
     {"columns2", Make<columns2>},
     {"Plate_Deflection", Make<Plate_Deflection>},
     {"MOMENT_I", Make<MOMENT_I>},
+    {"Beam_Calc", Make<Beam_Calc>},
+    {"Beam_Selector", Make<Beam_Selector>, /*modal=*/true},
 };
 
 }  // namespace

@@ -66,7 +66,8 @@ QWidget* QtPlatform::Front() const {
 void QtPlatform::WindowShown(Window& window, bool) {
   WindowView*& view = views_[&window];
   if (view == nullptr) view = new WindowView(window, *session_);
-  if (session_->Modal() == &window) view->setWindowModality(Qt::ApplicationModal);
+  // Help that a modal window opens stands above it, rather than behind it where nobody can use it.
+  if (session_->Modal() != nullptr) view->setWindowModality(Qt::ApplicationModal);
   view->show();
   view->ReportGeometry();
 }

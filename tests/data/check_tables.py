@@ -18,7 +18,13 @@ from table_reader import DATA, ROOT, Table, fields_of, lines_of
 GENERATE = ROOT / "tools" / "tables" / "generate.py"
 
 # Files of records that calculators read themselves, so not laid out for the table viewer.
-RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat"}
+RECORDS = {
+    "BELTDATA.DAT",
+    "Conversion_Factors.dat",
+    "SHEAVES.dat",
+    "SPROCKET.dat",
+    "beams.dat",
+}
 
 
 class Pair:
@@ -76,6 +82,24 @@ class Files(unittest.TestCase):
                 self.assertEqual(text.count("\r\n"), len(re.findall("[\r\n]+", text)))
                 self.assertTrue(text.endswith("\r\n"))
                 self.assertNotRegex(text, "[\x00-\x09\x0b\x0c\x0e-\x1f\x7f]")
+
+
+class Sketches(unittest.TestCase):
+    """Files of sections, each a line of plotter commands."""
+
+    MOST_COMMANDS = 5000  # that the program reads
+
+    def test_sections_and_commands(self):
+        for name, sections in {"beams.dat": [f"Case {n:02}" for n in range(1, 33)]}.items():
+            heads, drawings = lines_of(name)[1:-1:2], lines_of(name)[2:-1:2]
+            self.assertEqual(heads, [f"[{section}]" for section in sections])
+            self.assertEqual(len(set(drawings)), len(sections), "two sketches are the same")
+            for head, drawing in zip(heads, drawings):
+                with self.subTest(name + head):
+                    self.assertRegex(drawing, r"^((PU|PD|SP[1246]|PA\d+,\d+);)+$")
+                    self.assertLessEqual(drawing.count(";"), self.MOST_COMMANDS)
+                    points = [tuple(map(int, p)) for p in re.findall(r"PA(\d+),(\d+)", drawing)]
+                    self.assertEqual((0, 0), tuple(map(min, zip(*points))))
 
 
 class ViewerTables(unittest.TestCase):

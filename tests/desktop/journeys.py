@@ -87,6 +87,22 @@ def exit_with_calculator_open(korvane):
     expect("the exit status", korvane.exit_status, 0)
 
 
+def beam_palette(korvane):
+    """A case from the palette, which hides then, and keeps the program from ending no longer."""
+    korvane.start()
+    menu("Mechanical", "Stress and Deflection", "Beams II")
+    beams = window("Stress and Deflection of Beams")
+    beams.press("Select Case...")
+    palette = window("Select Beam Type and Loading Geometry")
+    palette.press("Fixed ends, concentrated load (P) at any point")
+    wait_for("the end of the palette",
+             lambda: find_window("Select Beam Type and Loading Geometry") is None)
+    wait_for("the case", lambda: beams.says("Fixed ends, concentrated load (P) at any point"))
+    beams.press("Exit")
+    menu("File", "Exit")
+    expect("the exit status", korvane.exit_status, 0)
+
+
 def about(korvane):
     """The main window hides behind the About window, whose Disagree ends the program at once."""
     orifice = calculator(korvane)
@@ -383,7 +399,7 @@ def act(control):
 
 JOURNEYS = (first_start, bad_setting, keyboard_alone, tab_order, option_group, pasted_and_keypad,
             help_pages, save_and_load, read_only_file, units, geometry_is_kept, exit_while_maximized,
-            exit_with_calculator_open, about, names, no_keys,
+            exit_with_calculator_open, beam_palette, about, names, no_keys,
             settings_that_fail)
 
 

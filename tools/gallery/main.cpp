@@ -27,6 +27,7 @@ struct Example {
   std::vector<std::pair<const char*, const char*>> metric;
   const char* enter;
   std::vector<const char*> clicks = {};
+  const char* choice = nullptr;  ///< what is clicked in the modal window that a click opens
 };
 
 const std::vector<Example>& Examples() {
@@ -121,6 +122,28 @@ const std::vector<Example>& Examples() {
        {{"Text1", "2"}, {"Text2", "3"}},
        "Text2",
        {"Label1"}},
+      {"Beam_Calc",
+       {{"txt_E", "29000000"},
+        {"txt_I", "88.6"},
+        {"txt_Z", "22.15"},
+        {"Text(0)", "144"},
+        {"Text(1)", "50"},
+        {"Text(2)", "80"},
+        {"Text(3)", "36"},
+        {"Text(5)", "48"},
+        {"Text(6)", "72"}},
+       {{"txt_E", "200000"},
+        {"txt_I", "36900000"},
+        {"txt_Z", "363000"},
+        {"Text(0)", "3600"},
+        {"Text(1)", "9"},
+        {"Text(2)", "14"},
+        {"Text(3)", "900"},
+        {"Text(5)", "1200"},
+        {"Text(6)", "1800"}},
+       "Text(6)",
+       {"btn_select"},
+       "Command1(11)"},
   };
   return examples;
 }
@@ -133,10 +156,23 @@ void Settle() {
   loop.exec();
 }
 
+/// Clicks a control of the modal window as soon as there is one.
+void ClicksInModal(Session& session, const std::string& name) {
+  auto* poll = new QTimer(QApplication::instance());
+  QObject::connect(poll, &QTimer::timeout, [&session, poll, name] {
+    const Window* modal = session.Modal();
+    if (modal == nullptr) return;
+    poll->deleteLater();
+    Person(session).Clicks(*modal->Find(name));
+  });
+  poll->start(0);
+}
+
 void Work(Session& session, Window& window) {
   const Person person(session);
   for (const Example& example : Examples()) {
     if (window.Name() != example.window) continue;
+    if (example.choice != nullptr) ClicksInModal(session, example.choice);
     for (const char* name : example.clicks) person.Clicks(*window.Find(name));
     for (const auto& [name, text] : session.MetricUnits ? example.metric : example.us)
       person.Types(dynamic_cast<FocusControl&>(*window.Find(name)), text);
