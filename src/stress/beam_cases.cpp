@@ -76,7 +76,7 @@ UnitText Caption(const char* us) {
 
 /// A caption in both unit systems, written as one text where the rule gives the other.
 struct FieldCaption : UnitText {
-  FieldCaption(const char* us) : UnitText(Caption(us)) {}
+  FieldCaption(const char* text) : UnitText(Caption(text)) {}
   FieldCaption(const char* usText, const char* metricText)
       : UnitText(std::string(usText), std::string(metricText)) {}
 };
