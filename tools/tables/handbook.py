@@ -72,7 +72,7 @@ class Field(NamedTuple):
 def field_of(text):
     head, *units = (part.strip() for part in text.split("|"))
     alignment = {"<": LEFT, "^": CENTER}.get(head[0], RIGHT)
-    heads = [part.strip() for part in head.lstrip("<^ ").split("/")]
+    heads = [part.strip() for part in head.lstrip("<^ ").split(" / ")]
     return Field(heads, alignment, [Unit(*parts_of(unit)) for unit in units])
 
 
