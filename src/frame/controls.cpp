@@ -223,6 +223,11 @@ void Command::Click() {
   if (onClick) onClick();
 }
 
+void Command::ShowFace(Drawing face) {
+  face_ = std::move(face);
+  Changed();
+}
+
 Option::Option(OptionGroup& group, std::string name, const UnitText& caption)
     : FocusControl(group.Owner(), std::move(name), Kind::Option), group_(group) {
   caption_ = InUnits(caption);

@@ -322,7 +322,14 @@ class Command : public FocusControl {
   Command(Window& window, std::string name, const UnitText& caption);
   void Click();
 
+  /// A command that shows a picture has its caption as tool tip.
+  const Drawing& Face() const { return face_; }
+  void ShowFace(Drawing face);
+
   Handler onClick;
+
+ private:
+  Drawing face_;
 };
 
 class Option;
@@ -468,14 +475,15 @@ class PageView : public FocusControl {
 template <class Element>
 class ControlArray {
  public:
-  /// Each element is made from the window, its name and the further arguments.
+  /// Each element is made from the window, its name and the further arguments; of an array among
+  /// them, such as that of the captions, each takes the one of its own index.
   template <class... Arguments>
   ControlArray(Window& window, const std::string& name, int first, int last,
                const Arguments&... arguments)
       : first_(first) {
     for (int i = first; i <= last; ++i)
-      elements_.push_back(
-          std::make_unique<Element>(window, name + '(' + std::to_string(i) + ')', arguments...));
+      elements_.push_back(std::make_unique<Element>(window, name + '(' + std::to_string(i) + ')',
+                                                    Of(arguments, i)...));
   }
 
   /// An index out of bounds fails with "Subscript out of range".
@@ -486,6 +494,15 @@ class ControlArray {
   }
 
  private:
+  template <class Argument>
+  static const Argument& Of(const Argument& argument, int) {
+    return argument;
+  }
+  template <class Other>
+  static Other& Of(const ControlArray<Other>& array, int index) {
+    return array(index);
+  }
+
   int first_;
   std::vector<std::unique_ptr<Element>> elements_;
 };

@@ -21,6 +21,10 @@ enum class Ink : std::uint8_t {
   Body,    ///< the fill of solid parts
   Accent,  ///< flow, loads, what the eye shall follow
   Paper,   ///< white in every palette
+  // Pens of the sketch files.
+  Red,
+  Blue,
+  Gray,
 };
 
 /// A line through the points, closed and filled where a fill is given.

@@ -9,10 +9,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -160,17 +162,50 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
 
 // ---- Buttons ----
 
-class CommandView final : public ViewOf<Command, QPushButton> {
+/// A button with a text, or a drawing in its place.
+class CommandButton final : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+  void Draw(const Drawing& face) {
+    face_ = face;
+    updateGeometry();
+    update();
+  }
+
+  QSize sizeHint() const override {
+    if (face_.shapes.empty()) return QPushButton::sizeHint();
+    const int margin = style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, this);
+    return SizeOf(face_, fontMetrics()).toSize() + QSize(margin, margin);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    Paint(painter, rect(), face_, palette());
+  }
+
+ private:
+  Drawing face_;
+};
+
+class CommandView final : public ViewOf<Command, CommandButton> {
  public:
   CommandView(Command& command, const Person& person, QWidget& parent)
-      : ViewOf(command, new QPushButton(&parent), person) {
+      : ViewOf(command, new CommandButton(&parent), person) {
     shown_.setAutoDefault(false);
     connect(&shown_, &QPushButton::clicked, this, [this] { person_.Clicks(model_); });
   }
 
  private:
   void RefreshContent() override {
-    shown_.setText(ToQt(model_.Caption()));
+    const QString caption = ToQt(model_.Caption());
+    const bool drawn = !model_.Face().shapes.empty();
+    shown_.setText(drawn ? QString() : caption);
+    shown_.setToolTip(drawn ? caption : QString());
+    shown_.setAccessibleName(drawn ? caption : QString());
+    shown_.Draw(model_.Face());
     shown_.setDefault(model_.Owner().DefaultCommand() == &model_);
   }
 };

@@ -4,18 +4,23 @@
 #include <QPainterPath>
 
 #include "toolkit/capture.h"
+#include "toolkit/contrast.h"
 #include "toolkit/text.h"
 
 namespace korvane {
 namespace {
 
 QColor ColorOf(Ink ink, const QPalette& palette) {
-  const bool dark = palette.color(QPalette::Window).lightness() < 128;
+  const QColor ground = palette.color(QPalette::Window);
+  const bool dark = ground.lightness() < 128;
   switch (ink) {
     case Ink::Line: return palette.color(QPalette::WindowText);
     case Ink::Body: return palette.color(dark ? QPalette::Light : QPalette::Mid);
     case Ink::Paper: return Qt::white;
     case Ink::Accent: return dark ? QColor(0x6C, 0xB4, 0xEE) : QColor(0x1F, 0x77, 0xB4);
+    case Ink::Red: return Readable(Qt::red, ground);
+    case Ink::Blue: return Readable(Qt::blue, ground);
+    case Ink::Gray: return Readable(QColor(0x80, 0x80, 0x80), ground);
   }
   return {};
 }
@@ -53,6 +58,24 @@ void Paint(QPainter& painter, const Snapshot& snapshot, const QPalette&) {
 
 }  // namespace
 
+QSizeF SizeOf(const Drawing& drawing, const QFontMetrics& metrics) {
+  return QSizeF(drawing.width, drawing.height) * (metrics.height() / 18.0);
+}
+
+void Paint(QPainter& painter, const QRectF& place, const Drawing& drawing,
+           const QPalette& palette) {
+  if (drawing.width <= 0 || drawing.height <= 0) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double scale = std::min(place.width() / drawing.width, place.height() / drawing.height);
+  painter.translate(place.center());
+  painter.scale(scale, scale);
+  painter.translate(-drawing.width / 2, -drawing.height / 2);
+  for (const auto& shape : drawing.shapes)
+    std::visit([&](const auto& drawn) { Paint(painter, drawn, palette); }, shape);
+  painter.restore();
+}
+
 void PictureWidget::Draw(const Drawing& drawing) {
   drawing_ = drawing;
   if (!fillsSpace_) setMinimumSize(sizeHint());
@@ -65,23 +88,14 @@ void PictureWidget::FillSpace() {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-/// Drawing units are points at the usual text size, so that pictures grow with the font.
 QSize PictureWidget::sizeHint() const {
   if (fillsSpace_) return {fontMetrics().height() * 8, fontMetrics().height() * 8};
-  const double unit = fontMetrics().height() / 18.0;
-  return (QSizeF(drawing_.width, drawing_.height) * unit).toSize();
+  return SizeOf(drawing_, fontMetrics()).toSize();
 }
 
 void PictureWidget::paintEvent(QPaintEvent*) {
-  if (drawing_.width <= 0 || drawing_.height <= 0) return;
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double scale = std::min(width() / drawing_.width, height() / drawing_.height);
-  painter.translate((width() - drawing_.width * scale) / 2,
-                    (height() - drawing_.height * scale) / 2);
-  painter.scale(scale, scale);
-  for (const auto& shape : drawing_.shapes)
-    std::visit([&](const auto& drawn) { Paint(painter, drawn, palette()); }, shape);
+  Paint(painter, rect(), drawing_, palette());
 }
 
 }  // namespace korvane

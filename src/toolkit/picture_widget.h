@@ -5,7 +5,15 @@
 
 #include "frame/drawing.h"
 
+class QPainter;
+
 namespace korvane {
+
+/// Drawing units are points at the usual text size, so that pictures grow with the font.
+QSizeF SizeOf(const Drawing& drawing, const QFontMetrics& metrics);
+
+/// As large as its place lets it be, in the middle of it.
+void Paint(QPainter& painter, const QRectF& place, const Drawing& drawing, const QPalette& palette);
 
 class PictureWidget final : public QWidget {
  public:
