@@ -69,22 +69,16 @@ Sizes Rods(bool metric, bool air) {
 /// A cylinder in section with its ports; extending is to the right.
 Drawing Sketch() {
   Drawing drawing{330, 150, {}};
-  const auto box = [&drawing](double left, double top, double right, double bottom, Ink fill) {
-    drawing.shapes.emplace_back(
-        Path{{{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}},
-             Ink::Line,
-             fill});
-  };
   constexpr double top = 44, bottom = 108, middle = 76;
-  box(24, top - 8, 216, top, Ink::Body);
-  box(24, bottom, 216, bottom + 8, Ink::Body);
-  box(14, top - 8, 26, bottom + 8, Ink::Body);
-  box(206, top - 8, 224, middle - 11, Ink::Body);
-  box(206, middle + 11, 224, bottom + 8, Ink::Body);
-  box(106, middle - 10, 304, middle + 10, Ink::Body);
-  box(94, top + 1, 110, bottom - 1, Ink::Body);
+  AddBox(drawing, {24, top - 8}, {216, top});
+  AddBox(drawing, {24, bottom}, {216, bottom + 8});
+  AddBox(drawing, {14, top - 8}, {26, bottom + 8});
+  AddBox(drawing, {206, top - 8}, {224, middle - 11});
+  AddBox(drawing, {206, middle + 11}, {224, bottom + 8});
+  AddBox(drawing, {106, middle - 10}, {304, middle + 10});
+  AddBox(drawing, {94, top + 1}, {110, bottom - 1});
   for (const double port : {44.0, 190.0}) {
-    box(port - 6, top - 14, port + 6, top, Ink::Paper);
+    AddBox(drawing, {port - 6, top - 14}, {port + 6, top}, {});
     AddArrow(drawing, {port, 8}, {port, top - 4});
   }
   drawing.shapes.emplace_back(Letters{{78, 14}, "extend", 8, Ink::Accent});
@@ -95,8 +89,9 @@ Drawing Sketch() {
   AddArrow(drawing, {262, top}, {262, middle - 10}, Ink::Line);
   AddArrow(drawing, {262, bottom}, {262, middle + 10}, Ink::Line);
   drawing.shapes.emplace_back(Letters{{276, bottom - 4}, "rod", 7, Ink::Line});
-  AddMeasure(drawing, 26, 206, 136, "");
-  drawing.shapes.emplace_back(Letters{{116, 136}, "stroke", 7, Ink::Line});
+  AddArrow(drawing, {94, 134}, {26, 134}, Ink::Line);
+  AddArrow(drawing, {138, 134}, {206, 134}, Ink::Line);
+  drawing.shapes.emplace_back(Letters{{116, 134}, "stroke", 7, Ink::Line});
   return drawing;
 }
 

@@ -6,19 +6,13 @@ namespace {
 /// A bolt through two plates, drawn together by its nut.
 Drawing Sketch() {
   Drawing drawing{190, 176, {}};
-  const auto box = [&drawing](double left, double top, double right, double bottom, Ink fill) {
-    drawing.shapes.emplace_back(
-        Path{{{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}},
-             Ink::Line,
-             fill});
-  };
   constexpr double left = 72, right = 92, middle = (left + right) / 2;
-  box(16, 54, 148, 80, Ink::Paper);
-  box(16, 80, 148, 106, Ink::Paper);
-  box(left - 14, 34, right + 14, 54, Ink::Body);
-  box(left, 54, right, 106, Ink::Body);
-  box(left - 14, 106, right + 14, 126, Ink::Body);
-  box(left, 126, right, 144, Ink::Body);
+  AddBox(drawing, {16, 54}, {148, 80}, {});
+  AddBox(drawing, {16, 80}, {148, 106}, {});
+  AddBox(drawing, {left - 14, 34}, {right + 14, 54});
+  AddBox(drawing, {left, 54}, {right, 106});
+  AddBox(drawing, {left - 14, 106}, {right + 14, 126});
+  AddBox(drawing, {left, 126}, {right, 144});
   for (double y = 130; y < 144; y += 4)
     drawing.shapes.emplace_back(Path{{{left, y}, {right, y - 2}}, Ink::Line});
   for (const double x : {34.0, 130.0}) {

@@ -1,7 +1,7 @@
 // Fastener torque: clamping force and assembly torque of a screw, or its size for a force.
 #pragma once
 
-#include <cstdint>
+#include <string>
 
 #include "frame/calculator_window.h"
 #include "mechanical/us_field.h"

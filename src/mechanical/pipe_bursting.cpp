@@ -1,5 +1,7 @@
 #include "mechanical/pipe_bursting.h"
 
+#include <optional>
+
 namespace korvane {
 namespace {
 
@@ -8,10 +10,15 @@ Drawing Sketch() {
   Drawing drawing{150, 140, {}};
   constexpr Point center{66, 62};
   constexpr double outer = 54, inner = 40;
-  drawing.shapes.emplace_back(Path{Arc(center, outer, 0, 360), Ink::Line, Ink::Body});
-  drawing.shapes.emplace_back(Path{Arc(center, inner, 0, 360), Ink::Line, Ink::Paper});
+  std::vector<Point> wall = Arc(center, outer, 0, 360);
+  const std::vector<Point> bore = Arc(center, inner, 360, 0);
+  wall.insert(wall.end(), bore.begin(), bore.end());
+  drawing.shapes.emplace_back(Path{std::move(wall), Ink::Body, Ink::Body});
+  for (const double radius : {outer, inner})
+    drawing.shapes.emplace_back(Path{Arc(center, radius, 0, 360), Ink::Line});
   constexpr double reach = 32, start = 8;
-  for (int angle = 0; angle < 360; angle += 45)
+  constexpr double between = 45;
+  for (double angle = between / 2; angle < 360; angle += between)
     AddArrow(drawing, Arc(center, start, angle, angle).front(),
              Arc(center, reach, angle, angle).front());
   AddMeasure(drawing, center.x - outer, center.x + outer, 130, "D");

@@ -1,6 +1,8 @@
 #include "mechanical/rod_buckling.h"
 
 #include <array>
+#include <cstdint>
+#include <optional>
 
 namespace korvane {
 namespace {
@@ -44,8 +46,8 @@ class MountingSketch {
          {edge, kHeight - edge},
          {edge, edge}},
         {}, 3, frame);
-    Box(kCenter - 2.5, kLoad, kCenter + 2.5, kFront, Ink::Body);
-    Box(kCenter - 10, kFront, kCenter + 10, kRear, Ink::Body);
+    Box(kCenter - 2.5, kLoad, kCenter + 2.5, kFront);
+    Box(kCenter - 10, kFront, kCenter + 10, kRear);
     End(mounting.rodEnd);
     Hold(mounting.held);
     drawing_.shapes.emplace_back(Letters{{kCenter, kHeight - 14}, mounting.factor, 9, Ink::Line});
@@ -61,12 +63,12 @@ class MountingSketch {
            Ink ink = Ink::Line) {
     drawing_.shapes.emplace_back(Path{std::move(points), ink, fill, width});
   }
-  void Box(double left, double top, double right, double bottom, Ink fill) {
-    Add({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, fill);
+  void Box(double left, double top, double right, double bottom) {
+    AddBox(drawing_, {left, top}, {right, bottom});
   }
   void Pin(double y) { Add(Arc({kCenter, y}, 4, 0, 360), Ink::Paper); }
 
-  /// Ground with its hatching below, or above, an edge.
+  /// The ground that holds it, hatched below its edge.
   void Ground(double left, double right, double y) {
     Add({{left, y}, {right, y}}, {}, 1.5);
     for (double x = left + 4; x <= right; x += 4) Add({{x, y}, {x - 4, y + 5}}, {}, 0.75);
@@ -78,12 +80,11 @@ class MountingSketch {
       return;
     }
     AddArrow(drawing_, {kCenter, 8}, {kCenter, 22});
-    Box(kCenter - 9, 23, kCenter + 9, kLoad, Ink::Body);
+    Box(kCenter - 9, 23, kCenter + 9, kLoad);
     for (const double side : {-1.0, 1.0}) {  // guides
       const double x = kCenter + 11 * side;
       Add({{x, 18}, {x, kLoad + 5}}, {}, 1.5);
-      for (double y = 22; y <= kLoad + 5; y += 4)
-        Add({{x, y}, {x + 5 * side, y - 4 * side * side}}, {}, 0.75);
+      for (double y = 22; y <= kLoad + 5; y += 4) Add({{x, y}, {x + 5 * side, y - 4}}, {}, 0.75);
     }
     if (end == RodEnd::Pivoted) Pin(kLoad + 3);
   }
@@ -92,7 +93,7 @@ class MountingSketch {
     switch (held) {
       case Held::AtFront: Flange(kFront); break;
       case Held::AtRear:
-        Box(kCenter - 20, kRear - 4, kCenter + 20, kRear, Ink::Body);
+        Box(kCenter - 20, kRear - 4, kCenter + 20, kRear);
         Ground(kCenter - 24, kCenter + 24, kRear);
         break;
       case Held::FrontTrunnion: Trunnion(kFront + 6); break;
@@ -104,7 +105,7 @@ class MountingSketch {
     }
   }
   void Flange(double y) {
-    Box(kCenter - 20, y, kCenter + 20, y + 4, Ink::Body);
+    Box(kCenter - 20, y, kCenter + 20, y + 4);
     Ground(kCenter - 26, kCenter - 11, y + 4);
     Ground(kCenter + 11, kCenter + 26, y + 4);
   }
@@ -160,9 +161,9 @@ Layout Rod_Buckling_Calc::Arrangement() {
   for (int i = 0; i < static_cast<int>(kMountings.size()); ++i)
     buttons.emplace_back(btn_geometry(i));
   return Column(
-      {Row({Form({txt_dia, txt_length, txt_E, txt_SF, txt_GF}), Stretch()}),
-       Box(geometry_, {Row(std::move(buttons))}), Rule(),
-       Row({Form({txt_buckling_load, txt_safe_load}), Stretch()}),
+      {Row({Column({Form({txt_dia, txt_length, txt_E, txt_SF, txt_GF}), Rule(),
+                    Form({txt_buckling_load, txt_safe_load}), Stretch()}),
+            Column({Box(geometry_, {Row(std::move(buttons))}), Stretch()})}),
        Row({btn_calculate, Stretch(), btn_load, btn_save, btn_print, btn_help, btn_exit})});
 }
 

@@ -8,24 +8,21 @@ constexpr int kMillimeters = 1000;  // in a meter
 /// A keyed shaft in its hub from the end, and from the side with the key's length.
 Drawing Sketch() {
   Drawing drawing{320, 132, {}};
-  const auto add = [&drawing](std::vector<Point> points, Ink fill) {
+  const auto add = [&drawing](std::vector<Point> points, std::optional<Ink> fill) {
     drawing.shapes.emplace_back(Path{std::move(points), Ink::Line, fill});
   };
-  const auto box = [&add](double left, double top, double right, double bottom, Ink fill) {
-    add({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, fill);
-  };
   constexpr Point center{70, 70};
-  add(Arc(center, 54, 0, 360), Ink::Paper);
+  add(Arc(center, 54, 0, 360), {});
   add(Arc(center, 34, 0, 360), Ink::Body);
-  box(61, 27, 79, 45, Ink::Accent);
+  AddBox(drawing, {61, 27}, {79, 45}, Ink::Accent);
   AddMeasure(drawing, 36, 104, 70, "D");
   AddArrow(drawing, {42, 10}, {61, 10}, Ink::Line);
   AddArrow(drawing, {98, 10}, {79, 10}, Ink::Line);
   drawing.shapes.emplace_back(Letters{{108, 10}, "W", 9, Ink::Line});
 
-  box(190, 16, 262, 124, Ink::Paper);
-  box(160, 36, 300, 104, Ink::Body);
-  box(196, 27, 256, 45, Ink::Accent);
+  AddBox(drawing, {190, 16}, {262, 124}, {});
+  AddBox(drawing, {160, 36}, {300, 104});
+  AddBox(drawing, {196, 27}, {256, 45}, Ink::Accent);
   AddMeasure(drawing, 196, 256, 58, "L");
   return drawing;
 }
