@@ -32,6 +32,7 @@ constexpr std::array<Mounting, 9> kMountings = {{
     {"3.0", Held::AtRear, RodEnd::Free, "Fixed at the rear; rod end free"},
 }};
 
+constexpr int kCount = static_cast<int>(kMountings.size());
 /// The first of those whose factor the window opens with.
 constexpr int kFirstChosen = 2;
 
@@ -128,7 +129,7 @@ Rod_Buckling_Calc::Rod_Buckling_Calc(Session& session)
     : CalculatorWindow(session, {.name = "Rod_Buckling_Calc",
                                  .title = " Rod Buckling Calculation",
                                  .helpPage = "mechanical_rod_buckling_calculation.html"}),
-      btn_geometry(*this, "btn_geometry", 0, static_cast<int>(kMountings.size()) - 1, ""),
+      btn_geometry(*this, "btn_geometry", 0, kCount - 1, ""),
       file{"ROD BUCKLING",
            "rod_buckling.dta",
            "Load data...",
@@ -140,7 +141,7 @@ Rod_Buckling_Calc::Rod_Buckling_Calc(Session& session)
             TextRecord("Elastic Modulus", txt_E),
             TextRecord("Safety Factor", txt_SF)},
            [this] { Calculate(); }} {
-  for (int i = 0; i < static_cast<int>(kMountings.size()); ++i) {
+  for (int i = 0; i < kCount; ++i) {
     btn_geometry(i).SetCaption(std::string(MountingOf(i).description) + " (" +
                                MountingOf(i).factor + ')');
     btn_geometry(i).onClick = [this, i] { Choose(i); };
@@ -158,8 +159,8 @@ Rod_Buckling_Calc::Rod_Buckling_Calc(Session& session)
 
 Layout Rod_Buckling_Calc::Arrangement() {
   std::vector<Layout> buttons;
-  for (int i = 0; i < static_cast<int>(kMountings.size()); ++i)
-    buttons.emplace_back(btn_geometry(i));
+  buttons.reserve(kCount);
+  for (int i = 0; i < kCount; ++i) buttons.emplace_back(btn_geometry(i));
   return Column(
       {Row({Column({Form({txt_dia, txt_length, txt_E, txt_SF, txt_GF}), Rule(),
                     Form({txt_buckling_load, txt_safe_load}), Stretch()}),
@@ -182,7 +183,7 @@ void Rod_Buckling_Calc::Choose(int mounting) {
 void Rod_Buckling_Calc::Highlight(int mounting) {
   btn_geometry(mounting);  // fails out of bounds
   chosen_ = mounting;
-  for (int i = 0; i < static_cast<int>(kMountings.size()); ++i)
+  for (int i = 0; i < kCount; ++i)
     btn_geometry(i).ShowFace(
         MountingSketch(MountingOf(i), i == mounting ? Ink::Red : Ink::Line).Take());
 }
