@@ -210,6 +210,28 @@ const Saved kSaved[] = {
      {{"T1", ".5"}, {"T3", "2."}},
      "MOMENT OF INERTIA\r\nX-section option,Option7\r\nDIM1,.5\r\nDIM2,\r\nDIM3,2.\r\n"
      "DIM4,\r\n"},
+    {"Hydraulic_cylinders",
+     "btn_save",
+     {},
+     {{"cmb_bore_dia", "2.50"},
+      {"cmb_rod_dia", ".5"},
+      {"txt_pressure", "1,500"},
+      {"txt_extend_speed", ""},
+      {"txt_retract_speed", "x"}},
+     "HYDRAULIC CYLINDERS\r\nBore Diameter,2.50\r\nRod Diameter,.5\r\nPressure,1,500\r\n"
+     "Stroke,12\r\nExtend Speed,\r\nRetract Speed,x\r\n"},
+    {"Pneumatic_cylinders",
+     "btn_save",
+     {},
+     {{"cmb_rod_dia", "0"}, {"txt_stroke", "3"}, {"txt_extend_speed", "4"}},
+     "PNEUMATIC CYLINDERS\r\nBore Diameter,1\r\nRod Diameter,0\r\nPressure,100\r\nStroke,3\r\n"
+     "Extend Speed,4\r\nRetract Speed,0\r\n"},
+    {"Rod_Buckling_Calc",
+     "btn_save",
+     {"btn_geometry(7)"},
+     {{"txt_dia", " 2."}, {"txt_SF", ""}},
+     "ROD BUCKLING\r\nButton, 7 \r\nGeometry Factor,2.0\r\nRod Diameter, 2.\r\n"
+     "Stroke Length,39.37\r\nElastic Modulus,29000000\r\nSafety Factor,\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

@@ -30,6 +30,11 @@ Record TextRecord(std::string label, TextField& field) {
           [&field](const std::string& text) { field.SetText(text); }};
 }
 
+Record TextRecord(std::string label, Combo& combo) {
+  return {std::move(label), [&combo] { return combo.Text(); },
+          [&combo](const std::string& text) { combo.SetText(text); }};
+}
+
 Record MaskRecord(std::string label, TextField& field, Mask mask) {
   return {std::move(label), [&field, mask] { return FormatText(field.Text(), mask); },
           [&field](const std::string& text) { field.SetText(text); }};

@@ -22,6 +22,7 @@ struct Record {
 
 /// The field's text as it stands.
 Record TextRecord(std::string label, TextField& field);
+Record TextRecord(std::string label, Combo& combo);
 /// The field's number through a mask; a text that is no number as it stands.
 Record MaskRecord(std::string label, TextField& field, Mask mask);
 /// The field's number as a number: with a blank ahead (unless negative) and one behind.

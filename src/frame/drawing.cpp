@@ -17,11 +17,9 @@ std::vector<Point> Arc(Point center, double radius, double from, double to) {
   return points;
 }
 
-void AddBox(Drawing& drawing, Point corner, Point opposite) {
-  drawing.shapes.emplace_back(
-      Path{{corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}, corner},
-           Ink::Line,
-           Ink::Body});
+void AddBox(Drawing& drawing, Point corner, Point opposite, std::optional<Ink> fill) {
+  drawing.shapes.emplace_back(Path{
+      {corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}, corner}, Ink::Line, fill});
 }
 
 void AddArrow(Drawing& drawing, Point from, Point to, Ink ink) {

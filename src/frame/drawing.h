@@ -60,7 +60,7 @@ struct Drawing {
 std::vector<Point> Arc(Point center, double radius, double from, double to);
 
 // Parts that drawings share.
-void AddBox(Drawing& drawing, Point corner, Point opposite);
+void AddBox(Drawing& drawing, Point corner, Point opposite, std::optional<Ink> fill = Ink::Body);
 void AddArrow(Drawing& drawing, Point from, Point to, Ink ink = Ink::Accent);
 /// A measure between two places at one height, with its letters in the middle.
 void AddMeasure(Drawing& drawing, double left, double right, double y, const char* letters);

@@ -10,9 +10,14 @@
 #include "math/triangle.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
+#include "mechanical/cylinders.h"
+#include "mechanical/fastener.h"
 #include "mechanical/gearcalc.h"
 #include "mechanical/hp_torque.h"
 #include "mechanical/linshaft.h"
+#include "mechanical/pipe_bursting.h"
+#include "mechanical/rod_buckling.h"
+#include "mechanical/shear_keys.h"
 #include "mechanical/sprocket.h"
 #include "mechanical/torsion.h"
 #include "mechanical/v_belt.h"
@@ -65,6 +70,12 @@ constexpr WindowUnit kUnits[] = {
     {"torsion", Make<torsion>},
     {"HP_TORQUE", Make<HP_TORQUE>},
     {"GearCalc", Make<GearCalc>},
+    {"Shear_Keys", Make<Shear_Keys>},
+    {"fastener", Make<fastener>},
+    {"Hydraulic_cylinders", Make<Hydraulic_cylinders>},
+    {"Pneumatic_cylinders", Make<Pneumatic_cylinders>},
+    {"Rod_Buckling_Calc", Make<Rod_Buckling_Calc>},
+    {"Pipe_Bursting_Pressure", Make<Pipe_Bursting_Pressure>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},
