@@ -106,9 +106,8 @@ CONVEYOR::CONVEYOR(Session& session)
                                      {opt_minor, "Minor shocks"},
                                      {opt_heavy, "Heavy shocks"}}),
             WordRecord("Drive type", {{opt_direct_drive, "Direct"}, {opt_chain_drive, "Chain"}}),
-            ListRecord("Chain size", CMB_RC, kChainIfEmpty),
-            ListRecord("Headshaft sprocket teeth", cmb_headshaft_TEETH),
-            ListRecord("Gearbox sprocket teeth", cmb_gearbox_teeth),
+            ChainRecord(), TextRecord("Headshaft sprocket teeth", cmb_headshaft_TEETH),
+            TextRecord("Gearbox sprocket teeth", cmb_gearbox_teeth),
             TextRecord("Operating temp", txt_operating_temp),
             TextRecord("Expansion coef", txt_expansion_coef),
             TextRecord("Shaft diameter", txt_headshaft_dia),
@@ -194,11 +193,10 @@ void CONVEYOR::Load() {
   Calculate();
 }
 
-Record CONVEYOR::ListRecord(std::string label, Combo& list, std::string ifEmpty) {
-  return {
-      std::move(label),
-      [&list, ifEmpty = std::move(ifEmpty)] { return list.Text().empty() ? ifEmpty : list.Text(); },
-      [&list](const std::string& text) { list.SetText(text); }};
+Record CONVEYOR::ChainRecord() {
+  Record record = TextRecord("Chain size", CMB_RC);
+  record.value = [this] { return CMB_RC.Text().empty() ? kChainIfEmpty : CMB_RC.Text(); };
+  return record;
 }
 
 // ---- Choices ----

@@ -58,7 +58,7 @@ class CONVEYOR final : public CalculatorWindow {
  private:
   Layout Arrangement() override;
 
-  static Record ListRecord(std::string label, Combo& list, std::string ifEmpty = "");
+  Record ChainRecord();
 
   void FollowDrive();
   void ChooseDiameterSolve();
