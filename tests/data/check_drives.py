@@ -44,3 +44,33 @@ class Chains(unittest.TestCase):
             self.assertLess(abs(plate / pitch - 0.125), 0.0051, row[0])
             self.assertLess(abs(height / pitch - 0.95), 0.001, row[0])
             self.assertLess(abs(load / (12500 * pitch**2) - 1), 0.001, row[0])
+
+
+class ORings(unittest.TestCase):
+    def test_against_seal_makers_charts(self):
+        rows = Table("O-Rings.dat").by_key()
+        self.assertEqual(len(rows), 369)  # sizes of the standard
+        charts = {"-010": (0.239, 0.005, 0.07), "-028": (1.364, 0.013, 0.07),
+                  "-042": (3.239, 0.024, 0.07), "-116": (0.737, 0.009, 0.103),
+                  "-137": (2.05, 0.017, 0.103), "-152": (3.237, 0.024, 0.103),
+                  "-210": (0.734, 0.01, 0.139), "-224": (1.734, 0.015, 0.139),
+                  "-263": (7.234, 0.045, 0.139), "-316": (0.85, 0.01, 0.21),
+                  "-342": (3.6, 0.028, 0.21), "-370": (8.225, 0.05, 0.21),
+                  "-388": (18.955, 0.09, 0.21), "-438": (6.225, 0.04, 0.275),
+                  "-456": (13.475, 0.07, 0.275), "-473": (23.94, 0.11, 0.275),
+                  "-908": (0.644, 0.009, 0.087), "-920": (1.475, 0.014, 0.118)}  # fmt: skip
+        for dash, sizes in charts.items():
+            self.assertEqual(tuple(map(float, rows[dash][1:4])), sizes, dash)
+
+    def test_outside_diameters_are_near_sixteenths(self):
+        """The sizes were made to fit grooves of nominal fractions."""
+        for row in Table("O-Rings.dat").body:
+            number = int(row[0].lstrip("-"))
+            diameter, slack, section = map(float, row[1:4])
+            if 4 <= number < 900:
+                outside = diameter + 2 * section
+                part = outside * 16 % 1
+                self.assertLess(min(part, 1 - part), 0.62 if diameter > 15 else 0.45, row)
+            self.assertTrue(slack < 0.2 * diameter and slack >= 0.0035 * diameter, row)
+            for inch, mm in zip(row[1:5], row[5:9], strict=True):
+                self.assertLess(abs(float(inch) * 25.4 - float(mm)), 0.0051, row)
