@@ -89,3 +89,24 @@ class WireRopes(unittest.TestCase):
                 self.assertTrue(0.94 < float(row[4]) / square / tons < 1.06, (kind, row))
                 self.assertLess(abs(float(row[2]) / square / unit - 1), 0.06, (kind, row))
                 self.assertLess(abs(float(row[5]) - float(row[4]) * 8.8964), 0.6, row)
+
+
+class FiberRopes(unittest.TestCase):
+    def test_strength_follows_the_section(self):
+        """Pounds over the square of the circumference, which sailors know as 900 for manila."""
+        for row in Table("Fiber_Ropes_Twisted_US.dat").body:
+            square = inches(row[1]) ** 2
+            for column, least, most in ((3, 540, 1100), (5, 2200, 2900), (7, 1270, 2050)):
+                self.assertTrue(least < float(row[column]) / square < most, (row, column))
+            self.assertTrue(2.85 < inches(row[1]) / inches(row[0]) < 3.35, row)
+
+
+class Solar(unittest.TestCase):
+    def test_against_the_printed_insolation_values(self):
+        """ASHRAE's tables for 40 degrees north: facing the sun, horizontal, vertical to the south."""
+        rows = {(row[0], row[1]): row for row in Table("solar.DAT").body}
+        printed = {"Jan": (2182, 948, 1726), "Mar": (2916, 1852, 1484), "Jun": (3180, 2648, 610),
+                   "Sep": (2708, 1788, 1416), "Dec": (1978, 782, 1646)}  # fmt: skip
+        for month, values in printed.items():
+            for text, value in zip(rows["40° N", month][4:7], values, strict=True):
+                self.assertLess(abs(float(text) / value - 1), 0.011, (month, text, value))
