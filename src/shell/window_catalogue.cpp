@@ -7,6 +7,7 @@
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
+#include "hvac/psychro_2.h"
 #include "math/triangle.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
@@ -52,6 +53,7 @@ constexpr WindowUnit kUnits[] = {
     {"FlowCalc", Make<FlowCalc>},
     {"flow_2", Make<flow_2>},
     {"Psychro", Make<Psychro>},
+    {"Psychro_2", Make<Psychro_2>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical

@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -37,6 +38,7 @@ const std::vector<Example>& Examples() {
        {{"txt_diameter", "50"}, {"txt_gpm", "2.5"}, {"txt_elbows90", "4"}, {"txt_gvalves", "1"}},
        "txt_gpm"},
       {"Psychro", {{"DryBulbF", "75"}, {"rh", "60"}}, {{"DryBulbF", "75"}, {"rh", "60"}}, "rh"},
+      {"Psychro_2", {{"txt_RH", "50"}}, {{"txt_RH", "50"}}, "txt_RH", {"opt_RH"}},
       {"TRIANGLE", {{"A", "3"}, {"B", "4"}, {"C", "5"}}, {{"A", "3"}, {"B", "4"}, {"C", "5"}}, "C"},
       {"CONVEYOR",
        {{"txt_product_weight", "1500"}},
@@ -133,13 +135,23 @@ void Settle() {
   loop.exec();
 }
 
+void Fill(const Person& person, Control& control, const char* text) {
+  if (auto* combo = dynamic_cast<Combo*>(&control); combo != nullptr && !combo->IsEditable()) {
+    const auto& items = combo->Items();
+    person.Selects(*combo,
+                   static_cast<int>(std::find(items.begin(), items.end(), text) - items.begin()));
+  } else {
+    person.Types(dynamic_cast<FocusControl&>(control), text);
+  }
+}
+
 void Work(Session& session, Window& window) {
   const Person person(session);
   for (const Example& example : Examples()) {
     if (window.Name() != example.window) continue;
     for (const char* name : example.clicks) person.Clicks(*window.Find(name));
     for (const auto& [name, text] : session.MetricUnits ? example.metric : example.us)
-      person.Types(dynamic_cast<FocusControl&>(*window.Find(name)), text);
+      Fill(person, *window.Find(name), text);
     person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
     person.Presses(window, Key::Enter);
     Settle();
