@@ -4,6 +4,7 @@
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/fanlawcalc.h"
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
@@ -54,6 +55,7 @@ constexpr WindowUnit kUnits[] = {
     {"flow_2", Make<flow_2>},
     {"Psychro", Make<Psychro>},
     {"Psychro_2", Make<Psychro_2>},
+    {"FanLawCalc", Make<FanLawCalc>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
