@@ -4,6 +4,7 @@
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/duct_size.h"
 #include "hvac/fanlawcalc.h"
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
@@ -56,6 +57,7 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro", Make<Psychro>},
     {"Psychro_2", Make<Psychro_2>},
     {"FanLawCalc", Make<FanLawCalc>},
+    {"Duct_Size", Make<Duct_Size>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical
