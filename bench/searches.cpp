@@ -1,6 +1,6 @@
 // The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
-// its pressure drop as the window does it, a shaft's diameter from its speed or its stress, and the
-// pairs of a catalogue of sheaves.
+// its pressure drop as the window does it, a shaft's diameter from its speed or its stress, the
+// pairs of a catalogue of sheaves, and the wet bulb of a humidity.
 
 #include <cmath>
 #include <optional>
@@ -9,6 +9,7 @@
 
 #include "compare.h"
 #include "driver/interpreter.h"
+#include "hvac/psychro_2.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/v_belt.h"
@@ -242,6 +243,103 @@ void ShaftsBare() {
 
 void ShaftSearch(benchmark::State& state) { CompareTimes(state, 1.5, ShaftsChecked, ShaftsBare); }
 BENCHMARK(ShaftSearch)->Unit(benchmark::kMillisecond);
+
+// ---- Moist air ----
+
+constexpr int kHumidities = 61;
+
+/// Relative humidities from 30 to 90 per cent.
+int TargetHumidity(int search) { return 30 + search; }
+
+void AirChecked() {
+  volatile float dryBulb = 70, feet = 1200;
+  const Single tdb = static_cast<double>(dryBulb);
+  const Single altitude = static_cast<double>(feet);
+  for (int search = 0; search < kHumidities; ++search) {
+    Double dewPoint;
+    WalkWetBulb(TargetHumidity(search), [&](Double twb, bool) {
+      const MoistAir air(tdb, twb, PressureAtAltitude(altitude));
+      if (air.Pv > 0) dewPoint = DewPointFromVapor(air.Pv);
+      benchmark::DoNotOptimize(air);
+      return air.RelativeHumidity;
+    });
+    benchmark::DoNotOptimize(dewPoint);
+  }
+}
+
+double BareSaturationPressure(double t) {
+  const double kelvins = (t + 459.688) / 1.8;
+  double s = 0;
+  if (kelvins > 273.16) {
+    const double z = 373.16 / kelvins;
+    s = -7.90298 * (z - 1) + 5.02808 * BareLog10(z) -
+        1.3816e-7 * (std::pow(10, 11.344 * (1 - 1 / z)) - 1) +
+        0.0081328 * (std::pow(10, -3.49149 * (z - 1)) - 1);
+  } else {
+    const double z = 273.16 / kelvins;
+    s = -9.09718 * (z - 1) - 3.56654 * BareLog10(z) + 0.876793 * (1 - 1 / z) + BareLog10(0.0060273);
+  }
+  return 29.921 * std::pow(10, s);
+}
+
+double BareVaporPressure(double tdb, double twb, double P) {
+  const double Pw = BareSaturationPressure(twb);
+  const double Ws = 0.62198 * Pw / (P - Pw);
+  if (twb <= 32) return 0;
+  const double W = Ws - (tdb - twb) * (0.24 + 0.441 * Ws) / (1093.049 + 0.441 * (tdb - twb));
+  return W / (0.62198 + W) * P;
+}
+
+double BareDewPoint(double Pv) {
+  const double y = std::log(Pv);
+  return Pv >= 0.18036 ? 79.047 + 30.579 * y + 1.8893 * y * y : 71.98 + 24.873 * y + 0.8927 * y * y;
+}
+
+double BarePressure(float a) {
+  static const float feet[] = {-1000, -500, 0, 500, 1000, 2000};
+  static const double pressure[] = {31.02, 30.47, 29.921, 29.38, 28.86, 27.82};
+  int row = 0;
+  while (a > feet[row]) ++row;
+  return pressure[row];
+}
+
+struct BareAir {
+  double P, Ps, Pv, humidity, ratio, enthalpy, volume;
+};
+
+void AirBare() {
+  volatile float dryBulb = 70, feet = 1200;
+  const double tdb = dryBulb;
+  const float altitude = feet;
+  for (int search = 0; search < kHumidities; ++search) {
+    const double target = TargetHumidity(search);
+    double dewPoint = 0;
+    const auto humidity = [&](double twb) {
+      BareAir air{};
+      air.P = BarePressure(altitude);
+      air.Ps = BareSaturationPressure(tdb);
+      air.Pv = BareVaporPressure(tdb, twb, air.P);
+      if (air.Pv > 0) dewPoint = BareDewPoint(air.Pv);
+      air.humidity = 100 * air.Pv / air.Ps;
+      air.ratio = 0.622 * air.Pv / (air.P - air.Pv);
+      air.enthalpy = 0.24 * tdb + air.ratio * (1061 + 0.444 * tdb);
+      air.volume = 0.754 * (tdb + 459.7) * (1 + 7000 * air.ratio / 4360) / air.P;
+      benchmark::DoNotOptimize(air);
+      return air.humidity;
+    };
+    double twb = 32;
+    for (; twb <= 1000; twb += 1)
+      if (humidity(twb) >= target) break;
+    for (; twb >= 0; twb -= 0.01)
+      if (humidity(twb) <= target) break;
+    for (; twb <= 1000; twb += 0.0001)
+      if (humidity(twb) >= target) break;
+    benchmark::DoNotOptimize(dewPoint);
+  }
+}
+
+void AirSearch(benchmark::State& state) { CompareTimes(state, 1.5, AirChecked, AirBare); }
+BENCHMARK(AirSearch)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace korvane

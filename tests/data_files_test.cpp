@@ -232,6 +232,25 @@ const Saved kSaved[] = {
      {{"txt_dia", " 2."}, {"txt_SF", ""}},
      "ROD BUCKLING\r\nButton, 7 \r\nGeometry Factor,2.0\r\nRod Diameter, 2.\r\n"
      "Stroke Length,39.37\r\nElastic Modulus,29000000\r\nSafety Factor,\r\n"},
+    {"convectn",
+     "Command1",
+     {"opt_top"},
+     {{"txt_fpm", "3e2"}, {"txt_surf_temp", "180."}, {"txt_sq_ft", ""}},
+     "CONVECTION\r\nVelocity,3e2\r\nSurface temp,180.\r\nAmbient temp,70\r\nSurface area,\r\n"
+     "Orientation,Top\r\n"},
+    {"convectn",
+     "Command1",
+     {"opt_bottom"},
+     {{"txt_ambient_temp", "21"}},
+     "CONVECTION\r\nVelocity,0\r\nSurface temp,0\r\nAmbient temp,21\r\nSurface area,1\r\n"
+     "Orientation,Bottom\r\n"},
+    {"Insulated_Pipes",
+     "btn_save",
+     {},
+     {{"txt_k_value", ".25"}, {"txt_pipe_length", "100."}},
+     "INSULATED PIPES\r\nPipe Outside Diameter,4.5\r\nInsulation Thickness,1.5\r\n"
+     "Pipe Temperature,215\r\nAir Temperature,86\r\nInsulation k-value,.25\r\n"
+     "Length of Pipe,100.\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

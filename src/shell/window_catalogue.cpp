@@ -4,9 +4,16 @@
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/convectn.h"
+#include "hvac/duct_size.h"
+#include "hvac/fanlawcalc.h"
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
+#include "hvac/insulated_pipes.h"
+#include "hvac/perfloss.h"
 #include "hvac/psychro.h"
+#include "hvac/psychro_2.h"
+#include "hvac/purge_rate.h"
 #include "math/triangle.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
@@ -59,6 +66,13 @@ constexpr WindowUnit kUnits[] = {
     {"FlowCalc", Make<FlowCalc>},
     {"flow_2", Make<flow_2>},
     {"Psychro", Make<Psychro>},
+    {"Psychro_2", Make<Psychro_2>},
+    {"FanLawCalc", Make<FanLawCalc>},
+    {"Duct_Size", Make<Duct_Size>},
+    {"perfloss", Make<perfloss>},
+    {"convectn", Make<convectn>},
+    {"Insulated_Pipes", Make<Insulated_Pipes>},
+    {"Purge_Rate", Make<Purge_Rate>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical

@@ -128,9 +128,23 @@ class Arranger {
     for (int row = 0; row < static_cast<int>(layout.parts.size()); ++row) {
       const Layout& line = layout.parts[static_cast<std::size_t>(row)];
       for (int column = 0; column < static_cast<int>(line.parts.size()); ++column)
-        AddCell(*grid, line.parts[static_cast<std::size_t>(column)], parent, row, column);
+        AddCellOrCaption(*grid, line.parts, column, parent, row);
     }
     return grid;
+  }
+
+  /// A label ahead of the field that it is the caption of stands as captions do in forms.
+  void AddCellOrCaption(QGridLayout& grid, const std::vector<Layout>& line, int column,
+                        QWidget& parent, int row) {
+    const auto at = static_cast<std::size_t>(column);
+    if (at + 1 < line.size()) {
+      const auto* next = dynamic_cast<CaptionedControl*>(line[at + 1].control);
+      if (next != nullptr && line[at].control == &next->CaptionBeside()) {
+        grid.addWidget(CaptionOf(line[at + 1], parent), row, column);
+        return;
+      }
+    }
+    AddCell(grid, line[at], parent, row, column);
   }
 
   void AddCell(QGridLayout& grid, const Layout& part, QWidget& parent, int row, int column) {

@@ -504,6 +504,9 @@ void ControlView::RefreshColors() {
     palette.setColor(letters, Contrast(palette.color(ground)));
   } else if (control_.Back().role == Color::Role::ButtonFace || result) {
     palette.setColor(ground, QPalette().color(QPalette::Window));
+    // A field that a choice has made a result of is still to be read.
+    if (text != nullptr)
+      palette.setColor(QPalette::Disabled, letters, QPalette().color(QPalette::Active, letters));
   } else {
     palette.setColor(ground, QPalette().color(QPalette::Base));
   }

@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -38,6 +39,38 @@ const std::vector<Example>& Examples() {
        {{"txt_diameter", "50"}, {"txt_gpm", "2.5"}, {"txt_elbows90", "4"}, {"txt_gvalves", "1"}},
        "txt_gpm"},
       {"Psychro", {{"DryBulbF", "75"}, {"rh", "60"}}, {{"DryBulbF", "75"}, {"rh", "60"}}, "rh"},
+      {"Psychro_2", {{"txt_RH", "50"}}, {{"txt_RH", "50"}}, "txt_RH", {"opt_RH"}},
+      {"FanLawCalc",
+       {{"txt_degf2", "150"}, {"txt_cfm2", "1200"}},
+       {{"txt_degc2", "60"}, {"txt_rpm2", "2000"}},
+       "txt_rpm2"},
+      {"Duct_Size",
+       {{"txt_width", "20"}, {"txt_depth", "10"}, {"txt_flow", "1000"}},
+       {{"txt_width", "500"}, {"txt_depth", "250"}, {"txt_flow", "1700"}},
+       "txt_flow",
+       {"opt_rectangular"}},
+      {"perfloss",
+       {{"txt_temp", "70"}, {"Combo1", " 20 %"}},
+       {{"txt_temp", "21"}, {"Combo1", " 20 %"}},
+       "txt_fpm"},
+      {"convectn",
+       {{"txt_fpm", "300"}, {"txt_surf_temp", "180"}, {"txt_sq_ft", "12"}},
+       {{"txt_fpm", "1.5"}, {"txt_surf_temp", "80"}, {"txt_ambient_temp", "21"}},
+       "txt_fpm",
+       {"opt_top"}},
+      {"Insulated_Pipes",
+       {{"txt_pipe_length", "100"}},
+       {{"txt_od", "114.3"},
+        {"txt_insul_thickness", "38"},
+        {"txt_pipe_temp", "102"},
+        {"txt_air_temp", "30"},
+        {"txt_k_value", "0.115"},
+        {"txt_pipe_length", "30"}},
+       "txt_pipe_length"},
+      {"Purge_Rate",
+       {{"txt_initial_conc", "20.9"}},
+       {{"txt_volume", "31"}, {"txt_flow_rate", "0.05"}, {"txt_initial_conc", "20.9"}},
+       "txt_initial_conc"},
       {"TRIANGLE", {{"A", "3"}, {"B", "4"}, {"C", "5"}}, {{"A", "3"}, {"B", "4"}, {"C", "5"}}, "C"},
       {"CONVEYOR",
        {{"txt_product_weight", "1500"}},
@@ -210,6 +243,14 @@ void ClicksInModal(Session& session, const std::string& name) {
     Person(session).Clicks(*modal->Find(name));
   });
   poll->start(0);
+void Fill(const Person& person, Control& control, const char* text) {
+  if (auto* combo = dynamic_cast<Combo*>(&control); combo != nullptr && !combo->IsEditable()) {
+    const auto& items = combo->Items();
+    person.Selects(*combo,
+                   static_cast<int>(std::find(items.begin(), items.end(), text) - items.begin()));
+  } else {
+    person.Types(dynamic_cast<FocusControl&>(control), text);
+  }
 }
 
 void Work(Session& session, Window& window) {
@@ -219,7 +260,7 @@ void Work(Session& session, Window& window) {
     if (example.choice != nullptr) ClicksInModal(session, example.choice);
     for (const char* name : example.clicks) person.Clicks(*window.Find(name));
     for (const auto& [name, text] : session.MetricUnits ? example.metric : example.us)
-      person.Types(dynamic_cast<FocusControl&>(*window.Find(name)), text);
+      Fill(person, *window.Find(name), text);
     person.Focuses(dynamic_cast<FocusControl&>(*window.Find(example.enter)));
     person.Presses(window, Key::Enter);
     Settle();
