@@ -18,7 +18,8 @@ from table_reader import DATA, ROOT, Table, fields_of, lines_of
 GENERATE = ROOT / "tools" / "tables" / "generate.py"
 
 # Files of records that calculators read themselves, so not laid out for the table viewer.
-RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat"}
+RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat",
+           "Steam_Cv.dat", "solvents.dat"}
 
 
 class Pair:
