@@ -1,6 +1,7 @@
 // The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
 // its pressure drop as the window does it, a shaft's diameter from its speed or its stress, the
 // pairs of a catalogue of sheaves, and the wet bulb of a humidity.
+// pairs of a catalogue of sheaves, and a steam pipe's diameter from its flow.
 
 #include <cmath>
 #include <optional>
@@ -10,6 +11,7 @@
 #include "compare.h"
 #include "driver/interpreter.h"
 #include "hvac/psychro_2.h"
+#include "hvac/steamflo.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/v_belt.h"
@@ -340,6 +342,42 @@ void AirBare() {
 
 void AirSearch(benchmark::State& state) { CompareTimes(state, 1.5, AirChecked, AirBare); }
 BENCHMARK(AirSearch)->Unit(benchmark::kMillisecond);
+// ---- Steam pipes ----
+
+constexpr int kPipes = 100;
+
+/// Flows in lb/h, for diameters from some 5 to 9 in.
+int TargetFlow(int pipe) { return 10'000 + 300 * pipe; }
+
+void SteamChecked() {
+  volatile double density = 0.2, drop = 1, length = 100;
+  for (int pipe = 0; pipe < kPipes; ++pipe) {
+    int trials = 0;
+    benchmark::DoNotOptimize(StepToSteamFlow({Single(density), Single(drop), Single(length)},
+                                             TargetFlow(pipe), [&trials](Double) { ++trials; }));
+    benchmark::DoNotOptimize(trials);
+  }
+}
+
+void SteamBare() {
+  volatile float givenDensity = 0.2F, givenDrop = 1, givenLength = 100;
+  for (int pipe = 0; pipe < kPipes; ++pipe) {
+    const float density = givenDensity, drop = givenDrop, length = givenLength;
+    int trials = 0;
+    double d = 0.25;
+    for (; d <= 12; d += 0.001) {
+      ++trials;
+      if (5220 * std::sqrt(density * drop * std::pow(d, 5) / (length * (1 + 3.6 / d))) >=
+          TargetFlow(pipe))
+        break;
+    }
+    benchmark::DoNotOptimize(d);
+    benchmark::DoNotOptimize(trials);
+  }
+}
+
+void SteamSearch(benchmark::State& state) { CompareTimes(state, 1.5, SteamChecked, SteamBare); }
+BENCHMARK(SteamSearch)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace korvane

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <tuple>
 
 #include "support/scripted_session.h"
 #include "support/temporary_folder.h"
@@ -68,7 +69,10 @@ std::vector<Swept> AllWindows() {
 
 bool IsInput(const Control& control) {
   switch (control.GetKind()) {
-    case Control::Kind::Text: return !dynamic_cast<const TextField&>(control).IsResult();
+    case Control::Kind::Text: {
+      const auto& field = dynamic_cast<const TextField&>(control);
+      return !field.IsResult() && !field.IsLocked();
+    }
     case Control::Kind::Combo:
     case Control::Kind::List:
     case Control::Kind::Scroll: return true;
@@ -139,7 +143,7 @@ class Sweep : public ::testing::TestWithParam<Swept> {
   void LooksRight(const Window& window) {
     std::map<const Control*, std::string> frames;
     FindFrames(window.GetLayout(), "", frames);
-    std::set<std::pair<std::string, std::string>> inputs;
+    std::set<std::tuple<std::string, Control::Kind, std::string>> inputs;
     for (const Control* control : window.Controls()) {
       if (!control->IsVisible() || control->Name().empty()) continue;
       // Ohm's law names its fields once a formula is chosen.
@@ -148,7 +152,7 @@ class Sweep : public ::testing::TestWithParam<Swept> {
         EXPECT_FALSE(control->Caption().empty()) << control->Name() << " has no caption";
       }
       if (IsInput(*control)) {
-        EXPECT_TRUE(inputs.insert({frames[control], control->Caption()}).second)
+        EXPECT_TRUE(inputs.insert({frames[control], control->GetKind(), control->Caption()}).second)
             << control->Name() << " shares the caption " << control->Caption();
       }
       if (const auto* field = dynamic_cast<const TextField*>(control)) {
@@ -257,8 +261,10 @@ TEST_P(Sweep, LoadsWhatItSaves) {
     if (Contains(told, "! dialog save")) save = i;
     if (Contains(told, "! dialog open")) load = i;
   }
-  // The belt drives' files end in the message of a failure.
-  if (!save || !load || std::string_view(GetParam().window) == "V_BELT") return;
+  // The files of these end in the message of a failure: of belt drives always, of ovens with a
+  // solvent monitor.
+  const std::set<std::string_view> failing = {"V_BELT", "SAFEVENT"};
+  if (!save || !load || failing.contains(GetParam().window)) return;
 
   const TemporaryFolder folder;
   const auto answered = [&](std::size_t command, const std::string& name) {

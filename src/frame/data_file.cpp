@@ -19,7 +19,11 @@ std::optional<std::string> ChooseFile(Session& session, const DataFile& data,
 
 std::string Written(const DataFile& data) {
   std::string text = data.signature + "\r\n";
-  for (const Record& record : data.records) text += record.label + ',' + record.value() + "\r\n";
+  for (const Record& record : data.records) {
+    const std::string value = record.value();
+    text += record.label + ',' + value;
+    if (record.endsLineIfEmpty || !value.empty()) text += "\r\n";
+  }
   return ToCodePage(text);
 }
 

@@ -18,6 +18,7 @@ struct Record {
   std::string label;
   std::function<std::string()> value;              ///< what saving writes behind the label
   std::function<void(const std::string&)> accept;  ///< what loading does with the field read
+  bool endsLineIfEmpty = true;  ///< without a value; else the next record goes on behind the comma
 };
 
 /// The field's text as it stands.

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/calculator_window.h"
-#include "mechanical/us_field.h"
+#include "frame/us_field.h"
 
 namespace korvane {
 

@@ -2,7 +2,7 @@
 // and stress those that are open. Inches, pounds, psi and hp.
 #pragma once
 
-#include "mechanical/us_field.h"
+#include "frame/us_field.h"
 
 namespace korvane {
 

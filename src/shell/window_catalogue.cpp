@@ -14,6 +14,17 @@
 #include "hvac/psychro.h"
 #include "hvac/psychro_2.h"
 #include "hvac/purge_rate.h"
+#include "hvac/boiling_point.h"
+#include "hvac/flow_2.h"
+#include "hvac/flowcalc.h"
+#include "hvac/heat_index.h"
+#include "hvac/psychro.h"
+#include "hvac/safevent.h"
+#include "hvac/std_atmosphere.h"
+#include "hvac/steamflo.h"
+#include "hvac/valve_cv.h"
+#include "hvac/water_hammer.h"
+#include "hvac/wind_chill.h"
 #include "math/triangle.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
@@ -73,6 +84,14 @@ constexpr WindowUnit kUnits[] = {
     {"convectn", Make<convectn>},
     {"Insulated_Pipes", Make<Insulated_Pipes>},
     {"Purge_Rate", Make<Purge_Rate>},
+    {"steamflo", Make<steamflo>},
+    {"Valve_Cv", Make<Valve_Cv>},
+    {"SAFEVENT", Make<SAFEVENT>},
+    {"Std_Atmosphere", Make<Std_Atmosphere>},
+    {"Boiling_Point", Make<Boiling_Point>},
+    {"Water_Hammer", Make<Water_Hammer>},
+    {"Heat_Index", Make<Heat_Index>},
+    {"Wind_Chill_Factor", Make<Wind_Chill_Factor>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
     // Mechanical

@@ -25,6 +25,8 @@ RECORDS = {
     "SPROCKET.dat",
     "beams.dat",
 }
+RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat",
+           "Steam_Cv.dat", "solvents.dat"}
 
 
 class Pair:
