@@ -1,7 +1,7 @@
 // The searches of calculators against the same arithmetic in bare machine types: a pipe's flow from
 // its pressure drop as the window does it, a shaft's diameter from its speed or its stress, the
-// pairs of a catalogue of sheaves, and the wet bulb of a humidity.
-// pairs of a catalogue of sheaves, and a steam pipe's diameter from its flow.
+// pairs of a catalogue of sheaves, the wet bulb of a humidity, and a steam pipe's diameter from its
+// flow.
 
 #include <cmath>
 #include <optional>

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "frame/calculator_window.h"
-#include "mechanical/us_field.h"
+#include "frame/us_field.h"
 
 namespace korvane {
 

@@ -96,7 +96,7 @@ class FiberRopes(unittest.TestCase):
         """Pounds over the square of the circumference, which sailors know as 900 for manila."""
         for row in Table("Fiber_Ropes_Twisted_US.dat").body:
             square = inches(row[1]) ** 2
-            for column, least, most in ((3, 540, 1100), (5, 2200, 2900), (7, 1270, 2050)):
+            for column, least, most in ((3, 540, 1100), (5, 2200, 2900), (7, 1250, 2050)):
                 self.assertTrue(least < float(row[column]) / square < most, (row, column))
             self.assertTrue(2.85 < inches(row[1]) / inches(row[0]) < 3.35, row)
 

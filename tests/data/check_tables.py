@@ -23,10 +23,10 @@ RECORDS = {
     "Conversion_Factors.dat",
     "SHEAVES.dat",
     "SPROCKET.dat",
+    "Steam_Cv.dat",
     "beams.dat",
+    "solvents.dat",
 }
-RECORDS = {"BELTDATA.DAT", "Conversion_Factors.dat", "SHEAVES.dat", "SPROCKET.dat",
-           "Steam_Cv.dat", "solvents.dat"}
 
 
 class Pair:

@@ -287,6 +287,8 @@ void ClicksInModal(Session& session, const std::string& name) {
     Person(session).Clicks(*modal->Find(name));
   });
   poll->start(0);
+}
+
 void Fill(const Person& person, Control& control, const char* text) {
   if (auto* combo = dynamic_cast<Combo*>(&control); combo != nullptr && !combo->IsEditable()) {
     const auto& items = combo->Items();
