@@ -7,7 +7,9 @@
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
+#include "math/areas.h"
 #include "math/triangle.h"
+#include "math/volumes_of_solids.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/gearcalc.h"
@@ -56,6 +58,8 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro", Make<Psychro>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
+    {"Areas", Make<Areas>},
+    {"Volumes_of_Solids", Make<Volumes_of_Solids>},
     // Mechanical
     {"CONVEYOR", Make<CONVEYOR>},
     {"SPROCKET", Make<SPROCKET>},
