@@ -1,6 +1,6 @@
 """The sketches of the solids: Volumes.plt, drawn as large as the panel lets them be."""
 
-from math import cos, radians, sin
+from math import acos, cos, degrees, radians, sin
 
 from sketches.figures import FigureSketch, angle_of, between, shifted
 from sketches.strokes import MEASURE, SUPPORT, write_sketches
@@ -123,9 +123,10 @@ def pyramid_frustrum():
     sketch.text("A1", between(top[0], top[2]))
     sketch.text("A2", between(center, base[0], 0.45))
     foot = (base[2][0], center[1])
-    sketch.measure((foot[0], center[1]), (foot[0], center[1] + height), "h", -OFF)
-    sketch.dashed(shifted(center, 0, height), (foot[0], center[1] + height))
-    sketch.dashed(center, foot)
+    head = shifted(foot, 0, height)
+    sketch.measure(foot, head, "h", -OFF)
+    sketch.dashed(between(base[1], base[2]), foot)
+    sketch.dashed(between(top[1], top[2]), head)
     return sketch
 
 
@@ -350,18 +351,15 @@ def spherical_wedge():
     tilt = r * TILT
     left = sketch.ellipse_points((0, 0), r, tilt, 180, 360)
     sketch.dashed(*left)
-    # Where the equator meets the two faces.
-    faces = [
-        (-edges[0], -tilt * (1 - (edges[0] / r) ** 2) ** 0.5),
-        (edges[1], -tilt * (1 - (edges[1] / r) ** 2) ** 0.5),
-    ]
-    for face in faces:
-        sketch.line((0, 0), face)
-    points = [between((0, 0), face, 0.55) for face in faces]
-    sketch.pen(MEASURE).line(points[0], (40, -210), (230, -205), points[1])
-    sketch.arrow_head((40, -210), points[0])
-    sketch.arrow_head((230, -205), points[1])
-    sketch.text("a", (150, -330))
+    # Where the equator meets the two faces, and the angle between them.
+    ends = [-degrees(acos(-edges[0] / r)), -degrees(acos(edges[1] / r))]
+    for end in ends:
+        sketch.line((0, 0), sketch.ellipse_points((0, 0), r, tilt, end, end + 1)[0])
+    angle = sketch.ellipse_points((0, 0), 0.55 * r, 0.55 * tilt, *ends)
+    sketch.pen(MEASURE).line(*angle)
+    sketch.arrow_head(angle[3], angle[0])
+    sketch.arrow_head(angle[-4], angle[-1])
+    sketch.text("a", (170, -390))
     sketch.radius((0, 0), r, 48, "r", share=0.6)
     return sketch
 
