@@ -153,6 +153,12 @@ void TextField::SetLocked(bool locked) {
   Changed();
 }
 
+void TextField::ShadeAsResult(bool shaded) {
+  if (shaded == shaded_) return;
+  shaded_ = shaded;
+  Changed();
+}
+
 void TextField::SelectAll() {
   selectAll_ = true;
   Changed();

@@ -239,7 +239,7 @@ class TextField : public CaptionedControl {
   void MakeResult() { result_ = shaded_ = true; }
   /// Looks like a result, but the person may type in it.
   bool IsShaded() const { return shaded_; }
-  void ShadeAsResult() { shaded_ = true; }
+  void ShadeAsResult(bool shaded = true);
 
   /// Holds words rather than a number: an address, a heading.
   bool IsFreeText() const { return freeText_; }

@@ -22,7 +22,9 @@
 #include "hvac/valve_cv.h"
 #include "hvac/water_hammer.h"
 #include "hvac/wind_chill.h"
+#include "math/areas.h"
 #include "math/triangle.h"
+#include "math/volumes_of_solids.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
 #include "mechanical/cylinders.h"
@@ -91,6 +93,8 @@ constexpr WindowUnit kUnits[] = {
     {"Wind_Chill_Factor", Make<Wind_Chill_Factor>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
+    {"Areas", Make<Areas>},
+    {"Volumes_of_Solids", Make<Volumes_of_Solids>},
     // Mechanical
     {"CONVEYOR", Make<CONVEYOR>},
     {"SPROCKET", Make<SPROCKET>},

@@ -90,9 +90,36 @@ class Sketches(unittest.TestCase):
     """Files of sections, each a line of plotter commands."""
 
     MOST_COMMANDS = 5000  # that the program reads
+    SECTIONS = {
+        "beams.dat": [f"Case {n:02}" for n in range(1, 33)],
+        "MAIN.PLT": "SQUARE RECTANG2 PARAGRAM RIGHTTRI ACUTE OBTUSE TRPZOID2 TRAPZIUM POLYGON CIRCLE"
+        " SECTOR SEGMENT CIRCRING RINGSECT FILLET".split(),
+        "Volumes.plt": [
+            "CUBE",
+            "RECTANGULAR PRISM",
+            "PRISM",
+            "PYRAMID RB",
+            "PYRAMID",
+            "PYRAMID FRUSTRUM",
+            "WEDGE",
+            "CYLINDER",
+            "CYLINDER PORTION 1",
+            "CYLINDER PORTION 2",
+            "CYLINDER HOLLOW",
+            "CONE",
+            "CONE FRUSTRUM",
+            "SPHERE",
+            "SPHERICAL SECTOR",
+            "SPHERICAL SEGMENT",
+            "SPHERICAL ZONE",
+            "SPHERICAL WEDGE",
+            "HOLLOW SPHERE",
+            "TORUS",
+        ],
+    }
 
     def test_sections_and_commands(self):
-        for name, sections in {"beams.dat": [f"Case {n:02}" for n in range(1, 33)]}.items():
+        for name, sections in self.SECTIONS.items():
             heads, drawings = lines_of(name)[1:-1:2], lines_of(name)[2:-1:2]
             self.assertEqual(heads, [f"[{section}]" for section in sections])
             self.assertEqual(len(set(drawings)), len(sections), "two sketches are the same")
