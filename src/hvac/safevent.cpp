@@ -112,7 +112,8 @@ Layout SAFEVENT::Arrangement() {
   return Column(
       {Row({Box(method_, {opt_per_minute, opt_per_batch, opt_continuous, opt_powder_coat,
                           opt_powder_coat_continuous}),
-            Column({Box(monitor_, {opt_monitor_no_25, opt_monitor_yes}), Stretch(), Command1})}),
+            Column({Box(monitor_, {opt_monitor_no_25, opt_monitor_yes}), Stretch(),
+                    Row({Stretch(), Command1})})}),
        Form({Row({txt_gpm, Stretch()}), Row({txt_gpbatch, Stretch()}),
              Row({txt_powder_load, Stretch()}), Row({Combo1, txt_cuft, Stretch()}),
              Row({txt_temp, lel_, txt_LEL_CF, Stretch()}),

@@ -34,9 +34,11 @@ steamflo::steamflo(Session& session)
 }
 
 Layout steamflo::Arrangement() {
-  return Column({Form({txt_length, txt_dia, txt_density, txt_pressure_drop}), Rule(),
-                 Form({txt_flow}),
-                 Row({btn_calc, Command1, Command2, Stretch(), btn_print, btn_help, btn_exit})});
+  const auto narrow = [](UsField& field) { return Row({field, Stretch()}); };
+  return Column(
+      {Form({narrow(txt_length), narrow(txt_dia), narrow(txt_density), narrow(txt_pressure_drop)}),
+       Rule(), Form({narrow(txt_flow)}),
+       Row({btn_calc, Command1, Command2, Stretch(), btn_print, btn_help, btn_exit})});
 }
 
 SteamPipe steamflo::Pipe() const {

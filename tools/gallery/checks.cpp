@@ -50,18 +50,23 @@ void FindCutOff(const QWidget& widget, QStringList& flaws) {
 }
 
 bool IsInput(const QWidget& widget) {
-  return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-         qobject_cast<const QCheckBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget);
+  if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return !field->isReadOnly();
+  return qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QCheckBox*>(&widget) ||
+         qobject_cast<const QAbstractItemView*>(&widget);
 }
 
 void FindNameless(QWidget& widget, QStringList& inputs, QStringList& flaws) {
   const QString control = widget.objectName();
   if (widget.focusPolicy() == Qt::NoFocus || control.isEmpty() || control.startsWith("qt_")) return;
-  const QString name = QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+  QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(&widget);
+  // Of a list Qt tells what is chosen in it.
+  const QString name = qobject_cast<const QComboBox*>(&widget) ? widget.accessibleName()
+                                                               : accessible.text(QAccessible::Name);
   if (name.trimmed().isEmpty()) flaws << QString("\"%1\" has no accessible name").arg(control);
   if (!IsInput(widget)) return;
-  if (inputs.contains(name)) flaws << QString("two inputs are named \"%1\"").arg(name);
-  inputs << name;
+  const QString role = QString::number(accessible.role());  // which is spoken with the name
+  if (inputs.contains(name + role)) flaws << QString("two inputs are named \"%1\"").arg(name);
+  inputs << name + role;
 }
 
 void FindPale(const QWidget& widget, QStringList& flaws) {
