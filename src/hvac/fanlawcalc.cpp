@@ -95,9 +95,7 @@ bool FanLawCalc::FollowFlow() {
   const Single flow = ToNumber(txt_cfm2);
   const Single r = flow / ToNumber(cfm1);
   const Single ATR = ToNumber(txt_ATR);
-  const Single speed = ToNumber(rpm1) * r;
-  txt_rpm2.Show(speed, "#");
-  txt_hz2.Show(speed * ToNumber(Hz1) / ToNumber(rpm1), "#");
+  ShowSpeed(ToNumber(rpm1) * r);
   ShowPressure(Power(r, 2), ATR);
   ShowPower(Power(r, 3), ATR);
   ShowMassFlow(flow);
@@ -138,9 +136,10 @@ bool FanLawCalc::FollowFrequency() {
   return true;
 }
 
+// The frequency goes with the speed as it is shown.
 void FanLawCalc::ShowSpeed(Double speed) {
   txt_rpm2.Show(speed, "#");
-  txt_hz2.Show(speed * ToNumber(Hz1) / ToNumber(rpm1), "#");
+  txt_hz2.Show(ToNumber(txt_rpm2) * ToNumber(Hz1) / ToNumber(rpm1), "#");
 }
 
 void FanLawCalc::ShowPressure(Double rise, Single ATR) {
