@@ -7,6 +7,10 @@
 #include "hvac/flow_2.h"
 #include "hvac/flowcalc.h"
 #include "hvac/psychro.h"
+#include "math/decfract.h"
+#include "math/free_fall.h"
+#include "math/orderofmag.h"
+#include "math/temp_cvt.h"
 #include "math/triangle.h"
 #include "mechanical/conveyor.h"
 #include "mechanical/crit_spd.h"
@@ -61,6 +65,10 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro", Make<Psychro>},
     // Math
     {"TRIANGLE", Make<TRIANGLE>},
+    {"DecFract", Make<DecFract>},
+    {"TEMP_CVT", Make<TEMP_CVT>},
+    {"OrderofMag", Make<OrderofMag>},
+    {"Free_Fall", Make<Free_Fall>},
     // Mechanical
     {"CONVEYOR", Make<CONVEYOR>},
     {"SPROCKET", Make<SPROCKET>},

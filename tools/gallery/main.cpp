@@ -188,6 +188,9 @@ const std::vector<Example>& Examples() {
        "Text(6)",
        {"btn_select"},
        "Command1(11)"},
+      {"DecFract", {{"dec", "1.4375"}}, {{"dec", "1.4375"}}, "dec"},
+      {"TEMP_CVT", {{"F", "68"}}, {{"F", "68"}}, "F"},
+      {"Free_Fall", {{"txt_height", "1000"}}, {{"txt_height", "300"}}, "txt_height"},
   };
   return examples;
 }
