@@ -1,6 +1,9 @@
 #include "shell/window_catalogue.h"
 
+#include "electrical/ac_power.h"
 #include "electrical/ohms_law.h"
+#include "electrical/time_constants.h"
+#include "electrical/voltage_drop.h"
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
@@ -59,6 +62,10 @@ constexpr WindowUnit kUnits[] = {
     {"Page_Setup", Make<Page_Setup>},
     // Electrical
     {"OHMS_LAW", Make<OHMS_LAW>},
+    {"AC_Power", Make<AC_Power>},
+    {"voltage_drop", Make<voltage_drop>},
+    {"RC_Calculations", Make<RC_Calculations>},
+    {"RL_Calculations", Make<RL_Calculations>},
     // HVAC
     {"FlowCalc", Make<FlowCalc>},
     {"flow_2", Make<flow_2>},
