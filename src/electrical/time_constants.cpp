@@ -43,6 +43,7 @@ Drawing ChargeCurve(const char* quantity, const char* limit) {
 Layout Section(Frame& frame, std::vector<Layout> formulas, std::vector<Layout> inputs,
                std::vector<Layout> results, Command& solve, std::vector<Layout> pictures = {}) {
   std::vector<Layout> parts;
+  parts.reserve(formulas.size());
   for (Layout& formula : formulas) parts.push_back(Row({std::move(formula), Stretch()}));
   parts.insert(parts.end(), {Form(std::move(inputs)), Rule(), Form(std::move(results)), Stretch()});
   for (Layout& picture : pictures) parts.push_back(Row({Stretch(), std::move(picture), Stretch()}));
