@@ -1,6 +1,9 @@
 #include "shell/window_catalogue.h"
 
+#include "electrical/ac_power.h"
 #include "electrical/ohms_law.h"
+#include "electrical/time_constants.h"
+#include "electrical/voltage_drop.h"
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
@@ -23,6 +26,10 @@
 #include "hvac/water_hammer.h"
 #include "hvac/wind_chill.h"
 #include "math/areas.h"
+#include "math/decfract.h"
+#include "math/free_fall.h"
+#include "math/orderofmag.h"
+#include "math/temp_cvt.h"
 #include "math/triangle.h"
 #include "math/volumes_of_solids.h"
 #include "mechanical/conveyor.h"
@@ -72,6 +79,10 @@ constexpr WindowUnit kUnits[] = {
     {"Page_Setup", Make<Page_Setup>},
     // Electrical
     {"OHMS_LAW", Make<OHMS_LAW>},
+    {"AC_Power", Make<AC_Power>},
+    {"voltage_drop", Make<voltage_drop>},
+    {"RC_Calculations", Make<RC_Calculations>},
+    {"RL_Calculations", Make<RL_Calculations>},
     // HVAC
     {"FlowCalc", Make<FlowCalc>},
     {"flow_2", Make<flow_2>},
@@ -95,6 +106,10 @@ constexpr WindowUnit kUnits[] = {
     {"TRIANGLE", Make<TRIANGLE>},
     {"Areas", Make<Areas>},
     {"Volumes_of_Solids", Make<Volumes_of_Solids>},
+    {"DecFract", Make<DecFract>},
+    {"TEMP_CVT", Make<TEMP_CVT>},
+    {"OrderofMag", Make<OrderofMag>},
+    {"Free_Fall", Make<Free_Fall>},
     // Mechanical
     {"CONVEYOR", Make<CONVEYOR>},
     {"SPROCKET", Make<SPROCKET>},

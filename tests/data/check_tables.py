@@ -25,6 +25,7 @@ RECORDS = {
     "SPROCKET.dat",
     "Steam_Cv.dat",
     "beams.dat",
+    "conductors.dat",
     "solvents.dat",
 }
 
@@ -768,3 +769,22 @@ class Sprockets(unittest.TestCase):
         for chain in self.PITCHES:
             for teeth in (9, 12, 15, 18, 24, 30, 36, 48, 60):
                 self.assertIn((chain, teeth), seen)
+
+
+class Conductors(unittest.TestCase):
+    def test_the_window_makes_the_circular_mils_of_each_size(self):
+        sizes = Table("COPRWIRE.dat").by_key()
+        rows = [line.split(",") for line in lines_of("conductors.dat")[1:-1]]
+        self.assertLessEqual(len(rows), 61)  # that the window looks at
+        areas = []
+        for number, quoted in rows:
+            label = quoted.strip('"')
+            with self.subTest(label):
+                inches = 92 ** ((36 - float(number)) / 39) * 0.005
+                areas.append(3.1415926 * inches**2 / 4 / 7.854e-7)
+                printed = float(sizes.pop(label)[2])
+                self.assertLess(abs(areas[-1] / printed - 1), 6e-4)
+                if label.endswith(" kcmil"):
+                    self.assertLess(abs(areas[-1] - 1000 * int(label.split()[0])), 0.01)
+        self.assertFalse(sizes)
+        self.assertEqual(areas, sorted(areas))

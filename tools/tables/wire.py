@@ -1,4 +1,5 @@
-"""COPRWIRE.dat, CoprWirM.dat, alumWIRE.dat, AlumWirM.dat: solid wire, from one list of sizes.
+"""COPRWIRE.dat, CoprWirM.dat, alumWIRE.dat, AlumWirM.dat: solid wire, from one list of sizes;
+conductors.dat: the same sizes by their numbers in the series, for the voltage drop window.
 
 Diameters follow ASTM B258: 0.005 inch at No. 36, 0.46 inch at No. 0000, in 39 equal ratios.
 """
@@ -7,7 +8,7 @@ from decimal import Decimal, getcontext
 from pathlib import Path
 from typing import NamedTuple
 
-from table_file import CENTER, Column, rounded, rows_of, write_table
+from table_file import CENTER, Column, quoted, rounded, rows_of, write_lines, write_table
 
 getcontext().prec = 40
 
@@ -72,6 +73,23 @@ METALS = [
 def write(folder):
     for metal in METALS:
         write_metal(folder, metal)
+    write_conductors(folder / "conductors.dat")
+
+
+def write_conductors(path):
+    """A gauge number and a label per line, from the thinnest up.
+
+    The window makes a diameter of the number by the rule of the gauge, and circular mils of that
+    with pi as 3.1415926 and a circular mil of 7.854E-07 in2. The numbers of the kcmil sizes, which
+    have none of their own, are those that give their circular mils by that arithmetic.
+    """
+    lines = [f"{path.name}: number in the series of ASTM B258, label"]
+    lines += [f"{number},{quoted(awg_name(number))}" for number in range(40, -4, -1)]
+    for kcmil in reversed(KCMIL):
+        inches = (kcmil * 1000 * Decimal("7.854E-7") * 4 / Decimal("3.1415926")).sqrt()
+        number = 36 - 39 * (inches / Decimal("0.005")).ln() / Decimal(92).ln()
+        lines.append(f"{number:.9f},{quoted(f'{kcmil} kcmil')}")
+    write_lines(path, lines)
 
 
 def write_metal(folder, metal):
