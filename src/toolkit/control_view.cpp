@@ -316,7 +316,7 @@ class ScrollView final : public ViewOf<ScrollBar, QScrollBar> {
   ScrollView(ScrollBar& bar, const Person& person, QWidget& parent)
       : ViewOf(bar, new QScrollBar(Qt::Horizontal, &parent), person) {
     shown_.setRange(bar.Least(), bar.Most());
-    shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * 24);
+    shown_.setMinimumWidth(shown_.fontMetrics().averageCharWidth() * 48);
     shown_.setFocusPolicy(Qt::StrongFocus);
     connect(&shown_, &QScrollBar::valueChanged, this,
             [this](int value) { person_.Scrolls(model_, value); });
