@@ -34,7 +34,6 @@ Hazard_Class::Hazard_Class(Session& session)
                                  .helpPage = "electrical_nec_hazardous_classifications.html",
                                  .sizable = true}) {
   Text1.MakeLines();
-  Text1.SetLocked(true);
   PrintsWith(btn_print);
   HelpsWith(btn_help);
   ExitsWith(btn_exit);

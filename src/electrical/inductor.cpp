@@ -35,6 +35,7 @@ constexpr std::array<double, kPlaces> WireOhms = {
 
 std::vector<std::string> Gauges() {
   std::vector<std::string> gauges;
+  gauges.reserve(kGauges);
   for (int gauge = 0; gauge < kGauges; ++gauge) gauges.push_back(PlainText(gauge));
   return gauges;
 }

@@ -117,9 +117,10 @@ void Plate_Capacitors::ReadDielectrics() {
     longest = std::max(longest, name.size());
     rows.emplace_back(std::move(name), reader.Text());
   }
-  for (auto& [name, K] : rows) {
+  for (auto& [item, K] : rows) {
     const std::size_t blanks = kConstantWidth - std::min(K.size(), kConstantWidth);
-    Combo1.AddItem(name + std::string(longest - name.size() + blanks + 2, ' ') + K);
+    item.resize(longest + 2 + blanks, ' ');
+    Combo1.AddItem(item.append(K));
   }
 }
 

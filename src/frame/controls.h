@@ -245,9 +245,9 @@ class TextField : public CaptionedControl {
   bool IsFreeText() const { return freeText_; }
   void MakeFreeText() { freeText_ = true; }
 
-  /// Shows several lines, in the room that its window leaves.
+  /// A text of several lines to read, in the room that its window leaves.
   bool HasLines() const { return lines_; }
-  void MakeLines() { lines_ = freeText_ = true; }
+  void MakeLines() { lines_ = freeText_ = locked_ = true; }
 
   Handler onChange;
   Handler onEnter;

@@ -101,10 +101,10 @@ class LinesView final : public ViewOf<TextField, QPlainTextEdit> {
  public:
   LinesView(TextField& field, const Person& person, QWidget& parent)
       : ViewOf(field, new QPlainTextEdit(&parent), person) {
-    constexpr int columns = 100, rows = 32;  // at least, where the screen has room
+    constexpr int columns = 50, rows = 8;  // at least
     shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    shown_.setMinimumSize(shown_.fontMetrics().averageCharWidth() * columns / 2,
-                          shown_.fontMetrics().lineSpacing() * rows / 4);
+    shown_.setMinimumSize(shown_.fontMetrics().averageCharWidth() * columns,
+                          shown_.fontMetrics().lineSpacing() * rows);
     shown_.setReadOnly(true);
     shown_.setTabChangesFocus(true);
     shown_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

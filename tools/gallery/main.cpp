@@ -281,7 +281,7 @@ const std::vector<Example>& Examples() {
         {"txt_depth", "400"},
         {"Text2(0)", "27"},
         {"Text2(1)", "100"}},
-       "Text2(1)",
+       "Text1(4)",
        {"chk_painted"}},
       {"Beam_Calc",
        {{"txt_E", "29000000"},
