@@ -245,12 +245,17 @@ class TextField : public CaptionedControl {
   bool IsFreeText() const { return freeText_; }
   void MakeFreeText() { freeText_ = true; }
 
+  /// A text of several lines to read, in the room that its window leaves.
+  bool HasLines() const { return lines_; }
+  void MakeLines() { lines_ = freeText_ = locked_ = true; }
+
   Handler onChange;
   Handler onEnter;
 
  private:
   std::string text_;
   bool freeText_ = false;
+  bool lines_ = false;
   bool locked_ = false;
   bool result_ = false;
   bool shaded_ = false;
@@ -272,6 +277,10 @@ class Choice : public CaptionedControl {
   void Select(int index);
   virtual const std::string& Text() const;  ///< of the chosen entry
 
+  /// Its entries are columns made of blanks.
+  bool HasFixedPitch() const { return fixedPitch_; }
+  void MakeFixedPitch() { fixedPitch_ = true; }
+
   Handler onSelect;
 
  protected:
@@ -279,18 +288,21 @@ class Choice : public CaptionedControl {
 
   std::vector<std::string> items_;
   int index_ = -1;
+
+ private:
+  bool fixedPitch_ = false;
 };
 
 class ListBox : public Choice {
  public:
   ListBox(Window& window, std::string name, const Beside& caption);
 
-  /// Its entries are columns made of blanks.
-  bool HasFixedPitch() const { return fixedPitch_; }
-  void MakeFixedPitch() { fixedPitch_ = true; }
+  /// As large as its entries, so that nothing scrolls.
+  bool ShowsAll() const { return all_; }
+  void ShowAll() { all_ = true; }
 
  private:
-  bool fixedPitch_ = false;
+  bool all_ = false;
 };
 
 class Combo : public Choice {

@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "frame/color.h"
+
 namespace korvane {
 
 struct Point {
@@ -33,6 +35,8 @@ struct Path {
   Ink ink = Ink::Line;
   std::optional<Ink> fill;
   double width = 1;  ///< of the line, in drawing units
+  /// Instead of the fill: the colour that the thing itself has, the same in every palette.
+  std::optional<Color> tint = {};
 };
 
 struct Letters {

@@ -4,6 +4,14 @@
 #include "electrical/ohms_law.h"
 #include "electrical/time_constants.h"
 #include "electrical/voltage_drop.h"
+#include "electrical/enclosure_charts.h"
+#include "electrical/enclosure_cooling.h"
+#include "electrical/hazard_class.h"
+#include "electrical/inductor.h"
+#include "electrical/lc_calculations.h"
+#include "electrical/ohms_law.h"
+#include "electrical/plate_capacitors.h"
+#include "electrical/resistor_color_codes.h"
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
@@ -83,6 +91,14 @@ constexpr WindowUnit kUnits[] = {
     {"voltage_drop", Make<voltage_drop>},
     {"RC_Calculations", Make<RC_Calculations>},
     {"RL_Calculations", Make<RL_Calculations>},
+    {"LC_Calculations", Make<LC_Calculations>},
+    {"inductor", Make<inductor>},
+    {"Plate_Capacitors", Make<Plate_Capacitors>},
+    {"Enclosure_Cooling", Make<Enclosure_Cooling>},
+    {"Resistor_Color_Codes", Make<Resistor_Color_Codes>},
+    {"Nema_box", Make<Nema_box>},
+    {"IP_Codes", Make<IP_Codes>},
+    {"Hazard_Class", Make<Hazard_Class>},
     // HVAC
     {"FlowCalc", Make<FlowCalc>},
     {"flow_2", Make<flow_2>},

@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -95,12 +96,39 @@ class TextView final : public ViewOf<TextField, NumberEdit> {
   }
 };
 
+/// Of a text of several lines, which is only read.
+class LinesView final : public ViewOf<TextField, QPlainTextEdit> {
+ public:
+  LinesView(TextField& field, const Person& person, QWidget& parent)
+      : ViewOf(field, new QPlainTextEdit(&parent), person) {
+    constexpr int columns = 50, rows = 8;  // at least
+    shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    shown_.setMinimumSize(shown_.fontMetrics().averageCharWidth() * columns,
+                          shown_.fontMetrics().lineSpacing() * rows);
+    shown_.setReadOnly(true);
+    shown_.setTabChangesFocus(true);
+    shown_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  }
+
+ private:
+  void RefreshContent() override {
+    if (text_ != model_.Text()) {
+      text_ = model_.Text();
+      shown_.setPlainText(ToQt(text_));
+    }
+    shown_.setAccessibleName(NameOf(model_, shown_));
+  }
+
+  std::string text_;
+};
+
 class ComboView final : public ViewOf<Combo, QComboBox> {
  public:
   ComboView(Combo& combo, const Person& person, QWidget& parent)
       : ViewOf(combo, new QComboBox(&parent), person) {
     shown_.setEditable(combo.IsEditable());
     shown_.setInsertPolicy(QComboBox::NoInsert);
+    if (combo.HasFixedPitch()) shown_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(&shown_, &QComboBox::activated, this,
             [this](int index) { person_.Selects(model_, index); });
     if (combo.IsEditable())
@@ -148,6 +176,7 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
       shown_.clear();
       shown_.addItems(items);
       items_ = items;
+      if (model_.ShowsAll()) FitEntries();
     }
     if (shown_.currentRow() != model_.Index()) {
       shown_.setCurrentRow(model_.Index());
@@ -155,6 +184,12 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
       shown_.scrollToItem(shown_.currentItem(), QAbstractItemView::PositionAtCenter);
     }
     shown_.setAccessibleName(NameOf(model_, shown_));
+  }
+
+  void FitEntries() {
+    const int frames = 2 * shown_.frameWidth();
+    shown_.setFixedHeight(shown_.sizeHintForRow(0) * shown_.count() + frames);
+    shown_.setMinimumWidth(shown_.sizeHintForColumn(0) + frames);
   }
 
   QStringList items_;
@@ -521,7 +556,10 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, const Person& per
                                              QWidget& parent) {
   switch (control.GetKind()) {
     using enum Control::Kind;
-    case Text: return Make<TextView, TextField>(control, person, parent);
+    case Text:
+      if (static_cast<TextField&>(control).HasLines())
+        return Make<LinesView, TextField>(control, person, parent);
+      return Make<TextView, TextField>(control, person, parent);
     case Combo: return Make<ComboView, korvane::Combo>(control, person, parent);
     case List: return Make<ListView, ListBox>(control, person, parent);
     case Option: return Make<OptionView, korvane::Option>(control, person, parent);

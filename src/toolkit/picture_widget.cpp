@@ -30,7 +30,10 @@ void Paint(QPainter& painter, const Path& path, const QPalette& palette) {
   for (const Point& point : path.points) points << QPointF(point.x, point.y);
   QPainterPath outline;
   outline.addPolygon(points);
-  if (path.fill) painter.fillPath(outline, ColorOf(*path.fill, palette));
+  if (path.tint)
+    painter.fillPath(outline, QColor::fromRgb(path.tint->rgb));
+  else if (path.fill)
+    painter.fillPath(outline, ColorOf(*path.fill, palette));
   painter.strokePath(outline, QPen(ColorOf(path.ink, palette), path.width, Qt::SolidLine,
                                    Qt::RoundCap, Qt::RoundJoin));
 }
