@@ -86,6 +86,16 @@ TEST(MenuWalk, OpensAllThatIsOffered) {
   suite.Shows("MAINFORM");
   MenuBar& menu = *suite.session.Find("MAINFORM")->Menu();
   int opened = 0;
+  std::set<std::string> missing;  // windows that are not built yet; no table is
+  for (const MenuEntry& entry : menu.Entries())
+    if (entry.onClick && entry.visible && !entry.enabled) missing.insert(entry.name);
+  EXPECT_EQ(missing, (std::set<std::string>{
+                         "blower_w", "ScrewThreads", "Section_Prop", "PeriodicChart", "pipetube",
+                         "Sched40pipe", "SheetMetal", "AlumAngles", "AlumUnequalAngles",
+                         "AlumChannels", "AlumStandardChannels", "AlumAssocBeams", "AlumTubing",
+                         "alum_square_tubing", "SteelAngles", "SteelUnequalAngles",
+                         "SteelChannels", "SteelS", "SteelW", "SteelTubing",
+                         "steel_square_tubing"}));
   for (const char* units : {"Imperial", "SI_Metric"}) {
     suite.person.Picks(*menu.Find(units));
     for (MenuEntry& entry : menu.Entries()) {
@@ -100,7 +110,7 @@ TEST(MenuWalk, OpensAllThatIsOffered) {
                             [](const std::string& line) { return line.starts_with("! shown"); });
     }
   }
-  EXPECT_GT(opened, 20);
+  EXPECT_GT(opened, 200);
 }
 
 // The comparison of frames closes the plain viewer only; one with a drawing keeps its table.
