@@ -100,6 +100,19 @@ class FiberRopes(unittest.TestCase):
                 self.assertTrue(least < float(row[column]) / square < most, (row, column))
             self.assertTrue(2.85 < inches(row[1]) / inches(row[0]) < 3.35, row)
 
+    def test_braids_keep_to_the_cordage_standards(self):
+        """CI 1304 in pounds, and the fall of strength per section as ropes grow thicker."""
+        rows = {row[0]: row for row in Table("Fiber_Ropes_Braided_US.dat").body}
+        printed = {"3": 19800, "5": 51500, "6": 72000, "7": 96500, "8": 123000, "12": 270000}
+        for size, strength in printed.items():
+            self.assertLess(abs(float(rows[size][2]) / strength - 1), 0.004, size)
+        for size, row in rows.items():
+            square = inches(size) ** 2
+            self.assertTrue(1850 < float(row[2]) / square < 2350, row)
+            if row[3]:
+                self.assertTrue(3100 < float(row[3]) / square < 3750, row)
+            self.assertTrue(3.0 < inches(size) * 25.4 / float(row[1]) < 3.25, row)
+
 
 class Solar(unittest.TestCase):
     def test_against_the_printed_insolation_values(self):

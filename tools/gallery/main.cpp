@@ -1,5 +1,6 @@
 // korvane-gallery FOLDER [--dark]: a picture of every window in both unit systems, with a worked
 // example in it. Fails, and says where, if a control is cut off or has no name of its own.
+// korvane-gallery FOLDER --tables: a picture of every table instead.
 
 #include <QApplication>
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "checks.h"
+#include "frame/table.h"
 #include "shell/window_catalogue.h"
 #include "toolkit/qt_platform.h"
 #include "toolkit/text.h"
@@ -409,6 +411,33 @@ int Draw(const QDir& folder) {
   return flawed ? 1 : 0;
 }
 
+bool IsTable(const Session& session, const std::string& file) {
+  try {
+    return ParseTable(session.ReadTable(file)).columns > 1;
+  } catch (const RuntimeFailure&) {
+    return false;  // a calculator's own records
+  }
+}
+
+int DrawTables(const QDir& folder) {
+  QtPlatform platform;
+  Session session(platform, WindowCatalogue(), FromQt(QApplication::applicationDirPath()));
+  platform.Serve(session);
+  session.ShowsSplash = false;
+  session.Handle([&] { session.Show("MAINFORM"); });
+  for (const QString& name : QDir(ToQt(session.DataPath)).entryList(QDir::Files)) {
+    session.DataFileName = FromQt(name);
+    if (!IsTable(session, session.DataFileName)) continue;
+    session.Handle([&] { session.Show("DISPLAY"); });
+    Settle();
+    Window& window = *session.Find("DISPLAY");
+    if (!platform.View(window)->grab().save(folder.filePath(name + ".png"))) return 1;
+    session.Handle([&] { session.Unload(window); });
+  }
+  session.DropWindows();
+  return 0;
+}
+
 }  // namespace
 }  // namespace korvane
 
@@ -420,10 +449,11 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() < 2) {
-    std::fprintf(stderr, "korvane-gallery FOLDER [--dark]\n");
+    std::fprintf(stderr, "korvane-gallery FOLDER [--dark | --tables]\n");
     return 2;
   }
   if (arguments.contains("--dark")) korvane::DarkenPalette();
   QDir().mkpath(arguments[1]);
-  return korvane::Draw(QDir(arguments[1]));
+  const QDir folder(arguments[1]);
+  return arguments.contains("--tables") ? korvane::DrawTables(folder) : korvane::Draw(folder);
 }
