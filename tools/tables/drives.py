@@ -11,9 +11,9 @@ MM = Fraction("25.4")
 NEWTON = Fraction("4.4482216152605")  # in a lbf
 KG_PER_M = Fraction("0.45359237") / Fraction("0.3048")  # in a lb/ft
 
-# ASME B17.1, table 1: shafts up to this diameter | width | height of the rectangular key.
+# ASME B17.1, table 1: shafts up to this diameter, width, height of the rectangular key or "-".
 INCH_KEYS = """
-7/16 3/32 3/32 | 9/16 1/8 3/32 | 7/8 3/16 1/8 | 1-1/4 1/4 3/16 | 1-3/8 5/16 1/4 | 1-3/4 3/8 1/4
+7/16 3/32 - | 9/16 1/8 3/32 | 7/8 3/16 1/8 | 1-1/4 1/4 3/16 | 1-3/8 5/16 1/4 | 1-3/4 3/8 1/4
 2-1/4 1/2 3/8 | 2-3/4 5/8 7/16 | 3-1/4 3/4 1/2 | 3-3/4 7/8 5/8 | 4-1/2 1 3/4 | 5-1/2 1-1/4 7/8
 6-1/2 1-1/2 1
 """
@@ -40,7 +40,7 @@ def shafts():
 def inch_keys():
     """Shaft, and width and heights of its square and rectangular key."""
     sizes = [
-        [inches(word) for word in size.split()]
+        [None if word == "-" else inches(word) for word in size.split()]
         for line in INCH_KEYS.strip().splitlines()
         for size in line.split("|")
     ]
@@ -57,14 +57,18 @@ def across(shaft, width, height):
     return f"{s:.3f}", f"{s + height + HUB_CLEARANCE:.3f}"
 
 
+def key_cells(shaft, width, height):
+    seats = across(float(shaft), float(width), float(height))
+    return [f"{mixed(width)} x {mixed(height)}", fixed(height / 2, 4), *seats]
+
+
 def write_keys(folder):
     rows = []
     for shaft, width, height in inch_keys():
-        square, flat = (across(float(shaft), float(width), float(h)) for h in (width, height))
         rows.append(
             [mixed(shaft), fixed(shaft, 4)]
-            + [f"{mixed(width)} x {mixed(width)}", fixed(width / 2, 4), *square]
-            + [f"{mixed(width)} x {mixed(height)}", fixed(height / 2, 4), *flat]
+            + key_cells(shaft, width, width)
+            + (key_cells(shaft, width, height) if height else [""] * 4)
         )
     write_table(
         folder / "keys_inch.dat",

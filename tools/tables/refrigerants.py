@@ -79,7 +79,8 @@ def write(folder):
     for file, title, names, span in GROUPS:
         parts = [(name, word, line) for name in names for word, line in known[name]]
         fahrenheit = range(span[0], span[1] + 1, 5)
-        celsius = range(*(round((f - 32) / 1.8 / 5) * 5 for f in span), 2)
+        low, high = (round((f - 32) / 1.8 / 5) * 5 for f in span)
+        celsius = range(low, high + 1, 2)
         for system, degree, unit, mpa, points in (
             ("US", "°F", "psi", PSI, [(f, (f + 459.67) / 1.8) for f in fahrenheit]),
             ("SI", "°C", "kPa", 0.001, [(c, c + ZERO) for c in celsius]),

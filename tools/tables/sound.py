@@ -5,14 +5,16 @@ from pathlib import Path
 from table_file import LEFT, Column, rows_of, write_table
 
 REFERENCE_PRESSURE = 20e-6  # Pa
-REFERENCE_INTENSITY = 1e-12  # W/m2; the two agree within 0.1 dB in air
+REFERENCE_INTENSITY = 1e-12  # W/m2; the two agree within 0.2 dB in air
 # OSHA 29 CFR 1910.95: 8 hours at 90 dBA, half of that for each 5 dB more, up to 115 dBA.
 LIMIT, HOURS, EXCHANGE, CEILING = 90, 8, 5, 115
 
 
 def engineering(value):
     """Three digits, with an exponent where the number would be long."""
-    return f"{value:.3g}" if 1e-3 <= value < 1e5 else f"{value:.2E}"
+    if 1000 <= value < 1e5:
+        return f"{value:.0f}"
+    return f"{value:.3g}" if 1e-3 <= value < 1000 else f"{value:.2E}"
 
 
 def write(folder):

@@ -9,7 +9,7 @@ MM = Fraction("25.4")
 KG_PER_M = Fraction("0.45359237") / Fraction("0.3048")  # in a lb/ft
 KN_PER_TON = 2 * Fraction("4.4482216152605")
 FACTOR = 5  # of safety, usual for lifting
-SHEAVE = {"6x19": (34, 51), "6x37": (18, 27), "8x19": (26, 41)}  # least and usual, in rope diameters
+SHEAVE = {"6x19": (34, 51), "6x37": (23, 35), "8x19": (27, 41)}  # least and usual, in rope diameters
 
 TITLES = {
     "6x19 FC IPS": "6 x 19 Class, Fiber Core, Improved Plow Steel",
