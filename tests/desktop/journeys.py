@@ -238,6 +238,34 @@ def help_pages(korvane):
     assert korvane.settings() == before
 
 
+def a_window_of_each_menu(korvane):
+    """Side by side, each by mouse and keys to its result; a table and a text beside them."""
+    korvane.start()
+    menu("Math", "Areas of Plane Figures")
+    areas = window("Areas of Plane Figures")
+    areas.get("radio button", "Circle").click()
+    enter(areas, "D", "2")
+    areas.press("Solve")
+    wait_for("the area", lambda: areas.field("Area").text.startswith("3.14159"))
+    menu("HVAC", "Heat Index")
+    heat = window("Heat Index")
+    enter(heat, "Temperature (F)", "90")
+    enter(heat, "Relative Humidity (%)", "70")
+    expect("the heat index", lambda: heat.field("Heat Index Temp (F)").text, "105.92")
+    menu("Electrical", "Voltage Drop Calculations")
+    drop = window("Voltage Drop Calculations")
+    enter(drop, "Current (amperes)", "15")
+    expect("the drop", lambda: drop.field("Voltage Drop").text, "5.926")
+    menu("Electrical", "Hazard Classifications (NEC)")
+    hazards = window("NEC Hazardous Location Classifications")
+    wait_for("the text", lambda: "Acetylene" in hazards.all("text")[0].text)
+    menu("Materials", "Thermal Properties of Materials", "Non-metallic Solids")
+    wait_for("the table", lambda: find_window("Thermal Properties of Non-metallic Solids"
+                                              " - U.S. Units"))
+    for shown in (areas, heat, drop):
+        shown.press("Exit")
+
+
 # ---- Files ----
 
 def choose_file(title, path):
@@ -399,7 +427,7 @@ def act(control):
 
 JOURNEYS = (first_start, bad_setting, keyboard_alone, tab_order, option_group, pasted_and_keypad,
             help_pages, save_and_load, read_only_file, units, geometry_is_kept, exit_while_maximized,
-            exit_with_calculator_open, beam_palette, about, names, no_keys,
+            exit_with_calculator_open, beam_palette, about, a_window_of_each_menu, names, no_keys,
             settings_that_fail)
 
 
