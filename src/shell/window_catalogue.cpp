@@ -25,6 +25,8 @@
 #include "hvac/valve_cv.h"
 #include "hvac/water_hammer.h"
 #include "hvac/wind_chill.h"
+#include "materials/pipedata.h"
+#include "materials/sched40.h"
 #include "math/areas.h"
 #include "math/decfract.h"
 #include "math/free_fall.h"
@@ -125,6 +127,9 @@ constexpr WindowUnit kUnits[] = {
     {"Pneumatic_cylinders", Make<Pneumatic_cylinders>},
     {"Rod_Buckling_Calc", Make<Rod_Buckling_Calc>},
     {"Pipe_Bursting_Pressure", Make<Pipe_Bursting_Pressure>},
+    // Materials
+    {"pipedata", Make<pipedata>},
+    {"Sched40", Make<Sched40>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},

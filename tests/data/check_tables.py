@@ -26,6 +26,7 @@ RECORDS = {
     "Steam_Cv.dat",
     "beams.dat",
     "conductors.dat",
+    "pipe.dat",
     "solvents.dat",
 }
 
