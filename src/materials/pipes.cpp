@@ -158,7 +158,7 @@ Drawing DrawnToScale(const PipeSection& section) {
     return Point{middle.x + radius * slant, middle.y - radius * slant};
   };
   AddArrow(drawing, along(outer + 26), along(outer));
-  AddArrow(drawing, along(std::max(inner - 26, 0.0)), along(inner));
+  AddArrow(drawing, along(std::max(inner - 22, 0.0)), along(inner));
   drawing.shapes.emplace_back(Letters{along(outer + 37), "t", 11, Ink::Accent});
   return drawing;
 }
