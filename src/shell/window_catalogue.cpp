@@ -1,9 +1,6 @@
 #include "shell/window_catalogue.h"
 
 #include "electrical/ac_power.h"
-#include "electrical/ohms_law.h"
-#include "electrical/time_constants.h"
-#include "electrical/voltage_drop.h"
 #include "electrical/enclosure_charts.h"
 #include "electrical/enclosure_cooling.h"
 #include "electrical/hazard_class.h"
@@ -12,6 +9,8 @@
 #include "electrical/ohms_law.h"
 #include "electrical/plate_capacitors.h"
 #include "electrical/resistor_color_codes.h"
+#include "electrical/time_constants.h"
+#include "electrical/voltage_drop.h"
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
@@ -33,6 +32,8 @@
 #include "hvac/valve_cv.h"
 #include "hvac/water_hammer.h"
 #include "hvac/wind_chill.h"
+#include "materials/pipedata.h"
+#include "materials/sched40.h"
 #include "math/areas.h"
 #include "math/decfract.h"
 #include "math/free_fall.h"
@@ -141,6 +142,9 @@ constexpr WindowUnit kUnits[] = {
     {"Pneumatic_cylinders", Make<Pneumatic_cylinders>},
     {"Rod_Buckling_Calc", Make<Rod_Buckling_Calc>},
     {"Pipe_Bursting_Pressure", Make<Pipe_Bursting_Pressure>},
+    // Materials
+    {"pipedata", Make<pipedata>},
+    {"Sched40", Make<Sched40>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},

@@ -28,6 +28,7 @@ RECORDS = {
     "beams.dat",
     "conductors.dat",
     "dielect.dat",
+    "pipe.dat",
     "solvents.dat",
 }
 

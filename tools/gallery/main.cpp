@@ -346,6 +346,10 @@ const std::vector<Example>& Examples() {
         {"txt_voltage", "24"},
         {"txt_charging_time", "0.04"}},
        "txt_charging_time"},
+      {"pipedata",
+       {{"cmb_size", "6"}, {"cmb_wall", "80, XS"}},
+       {{"cmb_standard", "Copper Tube, ASTM B88 and B306"}, {"cmb_size", "2"}, {"cmb_wall", "K"}},
+       "cmb_wall"},
   };
   return examples;
 }
@@ -453,7 +457,7 @@ int Draw(const QDir& folder) {
 
 bool IsTable(const Session& session, const std::string& file) {
   try {
-    return ParseTable(session.ReadTable(file)).columns > 1;
+    return ParseTable(session.ReadTable(file)).fixedRows > 0;
   } catch (const RuntimeFailure&) {
     return false;  // a calculator's own records
   }
