@@ -98,12 +98,12 @@ void Plate_Capacitors::Load() {
 
 /// A change of the field in focus is carried over to the other one.
 void Plate_Capacitors::Pair(TextField& inches, TextField& millimeters, double factor) {
-  inches.onChange = [&inches, &millimeters, factor] {
-    if (inches.HasFocus()) millimeters.Show(ToNumber(inches) * factor, "0.0000");
-  };
-  millimeters.onChange = [&inches, &millimeters, factor] {
-    if (millimeters.HasFocus()) inches.Show(ToNumber(millimeters) / factor, "0.0000");
-  };
+  FollowsTyping(inches, [&inches, &millimeters, factor] {
+    millimeters.Show(ToNumber(inches) * factor, "0.0000");
+  });
+  FollowsTyping(millimeters, [&inches, &millimeters, factor] {
+    inches.Show(ToNumber(millimeters) / factor, "0.0000");
+  });
 }
 
 void Plate_Capacitors::ReadDielectrics() {

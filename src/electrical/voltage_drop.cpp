@@ -42,14 +42,6 @@ Double SquareMillimeters(Area CM) {
   return (CM / kPerInch2) * Power(kInch, 2);
 }
 
-/// While the person types in one field, the other shows the same.
-template <class Convert>
-void Follows(TextField& typed, TextField& other, const Convert& convert) {
-  typed.onChange = [&typed, &other, convert] {
-    if (typed.HasFocus()) other.Show(convert(ToNumber(typed)), "0.000");
-  };
-}
-
 }  // namespace
 
 std::vector<WireGauge> ParseWireGauges(std::string_view bytes) {
@@ -76,10 +68,10 @@ voltage_drop::voltage_drop(Session& session)
   };
   opt_copper.onClick = [this] { TakeMaterial("12.9"); };
   opt_aluminum.onClick = [this] { TakeMaterial("21.2"); };
-  Follows(txt_k, txt_k2, [](Single k) { return k * kMetricK; });
-  Follows(txt_k2, txt_k, [](Single k) { return k / kMetricK; });
-  Follows(txt_length, txt_length_m, [](Single feet) { return feet * kFoot; });
-  Follows(txt_length_m, txt_length, [](Single m) { return m / kFoot; });
+  FollowsTyping(txt_k, [this] { txt_k2.Show(ToNumber(txt_k) * kMetricK, "0.000"); });
+  FollowsTyping(txt_k2, [this] { txt_k.Show(ToNumber(txt_k2) / kMetricK, "0.000"); });
+  FollowsTyping(txt_length, [this] { txt_length_m.Show(ToNumber(txt_length) * kFoot, "0.000"); });
+  FollowsTyping(txt_length_m, [this] { txt_length.Show(ToNumber(txt_length_m) / kFoot, "0.000"); });
   for (TextField* field : {&txt_amps, &txt_k, &txt_k2, &txt_length, &txt_length_m})
     field->onEnter = [this] { ComputeDrop(); };
   btn_calc.onClick = [this] { ComputeDrop(); };

@@ -56,6 +56,12 @@ void CalculatorWindow::ComputesAndMovesOn(std::initializer_list<TextField*> fiel
     };
 }
 
+void CalculatorWindow::FollowsTyping(TextField& field, const Handler& follow) {
+  field.onChange = [&field, follow] {
+    if (field.HasFocus()) follow();
+  };
+}
+
 void CalculatorWindow::PassesFocusOn(std::initializer_list<TextField*> fields) {
   for (TextField* field : fields) {
     field->MakeResult();

@@ -43,6 +43,9 @@ class CalculatorWindow : public Window {
   /// Fields that show results although a person may type in them: set apart from inputs to the eye
   /// alone.
   static void ShowsResultsIn(std::initializer_list<TextField*> fields);
+  /// What a change of the field does while a person types in it. One that the program writes does
+  /// nothing, so that two fields which follow each other don't go round in a circle.
+  static void FollowsTyping(TextField& field, const Handler& follow);
   /// Fields whose whole text is selected when they get the focus.
   void SelectsOnFocus(std::initializer_list<TextField*> fields);
 

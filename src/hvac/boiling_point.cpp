@@ -21,13 +21,10 @@ Boiling_Point::Boiling_Point(Session& session)
                                  .title = "Pressure & BP vs. Altitude",
                                  .helpPage = "hvac_pressure_boiling_point_vs_altitide.html"}) {
   // Each altitude follows the other one while a person types in that.
-  txt_altitude.onChange = [this] {
-    if (txt_altitude.HasFocus()) txt_altitude_m.Show(ToNumber(txt_altitude) * kMetersPerFoot);
-  };
-  txt_altitude_m.onChange = [this] {
-    if (txt_altitude_m.HasFocus())
-      txt_altitude.Show(ToNumber(txt_altitude_m) / kMetersPerFoot, "0.###");
-  };
+  FollowsTyping(txt_altitude,
+                [this] { txt_altitude_m.Show(ToNumber(txt_altitude) * kMetersPerFoot); });
+  FollowsTyping(txt_altitude_m,
+                [this] { txt_altitude.Show(ToNumber(txt_altitude_m) / kMetersPerFoot, "0.###"); });
   btn_calc.onClick = txt_altitude.onEnter =
       txt_altitude_m.onEnter = [this] { PressureAndBoilingPoint(); };
   ShowsResultsIn({&txt_pressure, &txt_pressure_Pa, &txt_bp, &txt_BP_C});

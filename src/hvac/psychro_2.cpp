@@ -82,12 +82,10 @@ Psychro_2::Psychro_2(Session& session)
   LinkTemperatures(txt_wet_bulb, txt_wet_bulb_C);
   LinkTemperatures(txt_dewpoint, txt_dewpoint_C);
   // What code writes to a field moves no twin: the person's field is the one in focus.
-  txt_altitude.onChange = [this] {
-    if (txt_altitude.HasFocus()) txt_altitude_m.Show(ToNumber(txt_altitude) * 12 / 39.37, "0.0");
-  };
-  txt_altitude_m.onChange = [this] {
-    if (txt_altitude_m.HasFocus()) txt_altitude.Show(ToNumber(txt_altitude_m) * 39.37 / 12, "0.0");
-  };
+  FollowsTyping(txt_altitude,
+                [this] { txt_altitude_m.Show(ToNumber(txt_altitude) * 12 / 39.37, "0.0"); });
+  FollowsTyping(txt_altitude_m,
+                [this] { txt_altitude.Show(ToNumber(txt_altitude_m) * 39.37 / 12, "0.0"); });
 
   OnClick(opt_wb, txt_wet_bulb, txt_wet_bulb_C);
   OnClick(opt_dp, txt_dewpoint, txt_dewpoint_C);
@@ -141,12 +139,10 @@ void Psychro_2::Load() {
 }
 
 void Psychro_2::LinkTemperatures(TextField& fahrenheit, TextField& celsius) {
-  fahrenheit.onChange = [&fahrenheit, &celsius] {
-    if (fahrenheit.HasFocus()) celsius.Show(Celsius(ToNumber(fahrenheit)), "0.00");
-  };
-  celsius.onChange = [&fahrenheit, &celsius] {
-    if (celsius.HasFocus()) fahrenheit.Show(ToNumber(celsius) * 1.8 + 32, "0.00");
-  };
+  FollowsTyping(fahrenheit,
+                [&fahrenheit, &celsius] { celsius.Show(Celsius(ToNumber(fahrenheit)), "0.00"); });
+  FollowsTyping(celsius,
+                [&fahrenheit, &celsius] { fahrenheit.Show(ToNumber(celsius) * 1.8 + 32, "0.00"); });
 }
 
 void Psychro_2::OnClick(Option& option, TextField& us, TextField& metric) {
