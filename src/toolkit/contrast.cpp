@@ -17,6 +17,11 @@ double Luminance(const QColor& color) {
 
 }  // namespace
 
+bool IsDark(const QColor& ground) {
+  constexpr int middle = 128;
+  return ground.lightness() < middle;
+}
+
 double ContrastOf(const QColor& one, const QColor& other) {
   const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
   return (light + 0.05) / (dark + 0.05);

@@ -9,6 +9,9 @@ namespace korvane {
 /// From which on a text of usual size counts as readable.
 inline constexpr double kReadableContrast = 4.5;
 
+/// Whether light text stands on it.
+bool IsDark(const QColor& ground);
+
 /// 1 (the same) to 21 (black on white).
 double ContrastOf(const QColor& one, const QColor& other);
 

@@ -9,6 +9,8 @@
 #include <QPrinter>
 #include <memory>
 
+#include "toolkit/contrast.h"
+
 namespace korvane {
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
@@ -55,10 +57,18 @@ bool HelpBrowser::IsInFolder(const QString& path) const {
   return !folder.isEmpty() && file.startsWith(folder + '/') && QFileInfo(file).isFile();
 }
 
+/// On a dark ground the picture of the same name in the folder "dark" beside it, if there is one.
+QUrl HelpBrowser::Suited(const QUrl& picture) const {
+  if (!IsDark(palette().color(QPalette::Base))) return picture;
+  const QUrl dark = picture.resolved(QUrl("dark/" + picture.fileName()));
+  return IsInFolder(dark.toLocalFile()) ? dark : picture;
+}
+
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   const QUrl url = source().resolved(name);
   if (url.isLocalFile() && IsInFolder(url.toLocalFile()))
-    return QTextBrowser::loadResource(type, url);
+    return QTextBrowser::loadResource(type,
+                                      type == QTextDocument::ImageResource ? Suited(url) : url);
   if (type != QTextDocument::HtmlResource) return {};
   return QString(
              "<h1>There is no such page</h1><p>The help folder has no page <b>%1</b>.</p>"

@@ -27,6 +27,7 @@ class HelpBrowser final : public QTextBrowser {
  private:
   QUrl UrlOf(const QString& address) const;
   bool IsInFolder(const QString& path) const;
+  QUrl Suited(const QUrl& picture) const;
   void Print();
 
   QString folder_;

@@ -12,7 +12,7 @@ namespace {
 
 QColor ColorOf(Ink ink, const QPalette& palette) {
   const QColor ground = palette.color(QPalette::Window);
-  const bool dark = ground.lightness() < 128;
+  const bool dark = IsDark(ground);
   switch (ink) {
     case Ink::Line: return palette.color(QPalette::WindowText);
     case Ink::Body: return palette.color(dark ? QPalette::Light : QPalette::Mid);

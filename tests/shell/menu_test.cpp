@@ -102,6 +102,8 @@ TEST(MenuWalk, OpensAllThatIsOffered) {
       suite.Told();
       suite.person.Picks(entry);
       const Lines told = suite.Told();
+      const std::string page = KORVANE_SOURCE_DIR "/help/" + suite.session.HelpTopic;
+      EXPECT_TRUE(std::filesystem::is_regular_file(page)) << entry.name << ": " << page;
       EXPECT_TRUE(std::none_of(told.begin(), told.end(), [](const std::string& line) {
         return line.starts_with("! failure");
       })) << entry.name;

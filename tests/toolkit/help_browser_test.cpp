@@ -88,6 +88,33 @@ TEST_F(HelpWindow, ShowsAPageInItsStyle) {
   EXPECT_FALSE(Page().accessibleName().isEmpty());
 }
 
+TEST_F(HelpWindow, ShowsPicturesThatSuitTheGround) {
+  const auto paint = [this](const char* file, int width) {
+    QImage picture(width, 10, QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    ASSERT_TRUE(picture.save(ToQt(InHelp(file))));
+  };
+  QDir(ToQt(folder.Path())).mkpath("help/dark");
+  paint("both.png", 10);
+  paint("dark/both.png", 20);
+  paint("one.png", 30);
+  folder.Write("help/pictures.html", "<img src='both.png'><img src='one.png'>");
+  const auto widths = [this](Qt::GlobalColor ground) {
+    Open("pictures.html");
+    QPalette palette = Page().palette();
+    palette.setColor(QPalette::Base, ground);
+    Page().setPalette(palette);
+    Page().reload();
+    const auto width = [this](const char* file) {
+      const QUrl url = Page().source().resolved(QUrl(file));
+      return Page().document()->resource(QTextDocument::ImageResource, url).value<QImage>().width();
+    };
+    return std::pair{width("both.png"), width("one.png")};
+  };
+  EXPECT_EQ(widths(Qt::white), std::pair(10, 30));
+  EXPECT_EQ(widths(Qt::black), std::pair(20, 30));
+}
+
 TEST_F(HelpWindow, ShowsNothingButPagesOfItsFolder) {
   ASSERT_TRUE(QFile::link(ToQt(folder.File("secret.html")), ToQt(InHelp("link.html"))));
   ASSERT_TRUE(QFile::link(ToQt(folder.Path()), ToQt(InHelp("out"))));

@@ -1,0 +1,58 @@
+#include "examples.h"
+
+#include <filesystem>
+#include <sstream>
+#include <string_view>
+
+#include "pages/worked_example.h"
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Of two examples for one window the first counts, and an example ends with its window.
+class Collector {
+ public:
+  explicit Collector(Examples& examples) : examples_(examples) {}
+
+  void Take(const std::string& command) {
+    constexpr std::string_view show = "show ";
+    if (command.starts_with(show)) {
+      const auto [at, isNew] = examples_.try_emplace(command.substr(show.size()));
+      example_ = isNew ? &at->second : nullptr;
+    } else if (command.starts_with("unload ")) {
+      example_ = nullptr;
+    } else if (example_ != nullptr) {
+      example_->push_back(command);
+    }
+  }
+
+ private:
+  Examples& examples_;
+  std::vector<std::string>* example_ = nullptr;
+};
+
+void TakePage(Examples& examples, const fs::path& path) {
+  Collector collector(examples);
+  for (const ExampleStep& step : WorkedExample(ReadPage(path)))
+    if (!step.answer) collector.Take(step.command);
+}
+
+}  // namespace
+
+Examples ReadExamples(bool metric) {
+  Examples examples;
+  if (metric) {
+    std::istringstream lines(ReadPage(KORVANE_SOURCE_DIR "/tools/gallery/metric_examples.txt"));
+    Collector collector(examples);
+    for (std::string line; std::getline(lines, line);)
+      if (!line.empty()) collector.Take(line);
+  } else {
+    for (const auto& entry : fs::directory_iterator(KORVANE_SOURCE_DIR "/help"))
+      if (entry.path().extension() == ".html") TakePage(examples, entry.path());
+  }
+  return examples;
+}
+
+}  // namespace korvane
