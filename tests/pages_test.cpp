@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "driver/interpreter.h"
+#include "pages/contents.h"
 #include "pages/worked_example.h"
 #include "shell/window_catalogue.h"
 
@@ -120,6 +121,17 @@ TEST(Pages, AreThreeClicksFromTheContentsAtMost) {
     ASSERT_TRUE(clicks.contains(page)) << page;
     EXPECT_LE(clicks[page], 3) << page;
   }
+}
+
+TEST(Pages, ListWhatTheMenusOffer) {
+  const auto menus = PagesOfMenus(fs::read_symlink("/proc/self/exe").parent_path().string());
+  for (const std::string& page : Pages())
+    EXPECT_EQ(TextOf(page), WithLists(TextOf(page), menus, kHelp))
+        << page << ": make the lists anew with korvane-pages";
+  for (const MenuPages& menu : menus)
+    EXPECT_TRUE(TextOf("contents").find("<!-- titles of " + menu.menu + " -->") !=
+                std::string::npos)
+        << menu.menu;
 }
 
 TEST(Pages, ShowEachWindowThatComputes) {
