@@ -88,12 +88,6 @@ void Enclosure_Cooling::Load() {
   SolveClosedLoop();
 }
 
-void Enclosure_Cooling::SolvesWith(Command& command, std::initializer_list<TextField*> fields,
-                                   const Handler& solve) {
-  command.onClick = solve;
-  for (TextField* field : fields) field->onEnter = solve;
-}
-
 void Enclosure_Cooling::FollowOptions() {
   MakeInput(Text1(kFlow), opt_delta_T.IsOn());
   MakeInput(Text1(kInside), opt_air_flow.IsOn());

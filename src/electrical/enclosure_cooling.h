@@ -16,7 +16,6 @@ class Enclosure_Cooling final : public CalculatorWindow {
  private:
   Layout Arrangement() override;
 
-  void SolvesWith(Command& command, std::initializer_list<TextField*> fields, const Handler& solve);
   void FollowOptions();
   void SolveOpenLoop();
   void SolveClosedLoop();

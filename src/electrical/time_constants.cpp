@@ -8,12 +8,6 @@ namespace {
 constexpr double kTwoPi = 6.28318530718;
 constexpr int kIndexSize = 7;  // points
 
-/// The command, and Enter in the inputs of its section.
-void SolvesWith(Command& command, std::initializer_list<TextField*> inputs, const Handler& solve) {
-  command.onClick = solve;
-  for (TextField* field : inputs) field->onEnter = solve;
-}
-
 /// How voltage or current nears its limit over five time constants.
 Drawing ChargeCurve(const char* quantity, const char* limit) {
   constexpr double left = 40, right = 240, top = 24, bottom = 104, constants = 5;

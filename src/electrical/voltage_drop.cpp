@@ -72,9 +72,8 @@ voltage_drop::voltage_drop(Session& session)
   FollowsTyping(txt_k2, [this] { txt_k.Show(ToNumber(txt_k2) / kMetricK, "0.000"); });
   FollowsTyping(txt_length, [this] { txt_length_m.Show(ToNumber(txt_length) * kFoot, "0.000"); });
   FollowsTyping(txt_length_m, [this] { txt_length.Show(ToNumber(txt_length_m) / kFoot, "0.000"); });
-  for (TextField* field : {&txt_amps, &txt_k, &txt_k2, &txt_length, &txt_length_m})
-    field->onEnter = [this] { ComputeDrop(); };
-  btn_calc.onClick = [this] { ComputeDrop(); };
+  SolvesWith(btn_calc, {&txt_amps, &txt_k, &txt_k2, &txt_length, &txt_length_m},
+             [this] { ComputeDrop(); });
 
   ShowsResultsIn({&txt_circ_mils});
   PassesFocusOn({&txt_mm2, &txt_optf, &txt_opkm, &txt_drop, &txt_percent});

@@ -47,6 +47,12 @@ void CalculatorWindow::CopiesWith(Command& command, const TextField& field) {
 
 bool CalculatorWindow::IsMetric() const { return GetSession().MetricUnits; }
 
+void CalculatorWindow::SolvesWith(Command& command, std::initializer_list<TextField*> fields,
+                                  const Handler& solve) {
+  command.onClick = solve;
+  for (TextField* field : fields) field->onEnter = solve;
+}
+
 void CalculatorWindow::ComputesAndMovesOn(std::initializer_list<TextField*> fields,
                                           const Handler& compute) {
   for (TextField* field : fields)

@@ -36,6 +36,9 @@ class CalculatorWindow : public Window {
   /// Whether metric units are selected now; captions keep to the units at the window's load.
   bool IsMetric() const;
 
+  /// A command that computes, as Enter in these fields does.
+  static void SolvesWith(Command& command, std::initializer_list<TextField*> fields,
+                         const Handler& solve);
   /// Enter in these fields computes, and then a simulated Tab moves the focus on.
   void ComputesAndMovesOn(std::initializer_list<TextField*> fields, const Handler& compute);
   /// A result field that passes the focus on as soon as it gets it.

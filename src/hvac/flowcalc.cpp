@@ -99,7 +99,7 @@ FlowCalc::FlowCalc(Session& session)
                                      {RoundEdge, "Round"}}),
             MaskRecord("Discharge Coefficient", dc, "#.###")},
            [this] { FlowAfterLoad(); }} {
-  dia.onEnter = btn_calc.onClick = [this] { ComputeAll(); };
+  SolvesWith(btn_calc, {&dia}, [this] { ComputeAll(); });
   area.onEnter = [this] {
     DiameterFromArea();
     ComputeFlow();

@@ -15,7 +15,7 @@ Free_Fall::Free_Fall(Session& session)
     : CalculatorWindow(session, {.name = "Free_Fall",
                                  .title = " Acceleration by Gravity",
                                  .helpPage = "math_acceleration_by_gravity.html"}) {
-  btn_Solve.onClick = txt_height.onEnter = [this] { Solve(); };
+  SolvesWith(btn_Solve, {&txt_height}, [this] { Solve(); });
   PassesFocusOn({&txt_seconds, &txt_fps, &txt_mph});
   SetDefault(btn_Solve);
   PrintsWith(Command1);

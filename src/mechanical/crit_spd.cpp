@@ -60,11 +60,10 @@ crit_spd::crit_spd(Session& session)
             TextRecord("Bearing tolerance", txt_brg_tolerance),
             TextRecord("Support spring constant", txt_spring_constant)},
            {}} {
-  btn_calc.onClick = [this] { Calculate(); };
-  for (TextField* field : std::initializer_list<TextField*>{
-           &txt_brg_spacing, &txt_overhang, &txt_shaft_dia, &txt_elastic_mod, &txt_impeller_wt,
-           &txt_brg_tolerance, &txt_spring_constant})
-    field->onEnter = [this] { Calculate(); };
+  SolvesWith(btn_calc,
+             {&txt_brg_spacing, &txt_overhang, &txt_shaft_dia, &txt_elastic_mod, &txt_impeller_wt,
+              &txt_brg_tolerance, &txt_spring_constant},
+             [this] { Calculate(); });
   txt_shaft_weight.onEnter = [this] {
     WeightEntered = true;
     Calculate();

@@ -1,4 +1,4 @@
-"""Holds cells of every table of the menus against published values: spot_values.txt."""
+"""Holds cells of every table of the menus against published values: spot_values.list."""
 
 import re
 import unittest
@@ -11,7 +11,7 @@ from table_reader import DATA, ROOT, Table, inches
 def read_spots():
     """By table file: row, column, published value, what it may differ by."""
     spots = {}
-    for line in Path(__file__).with_name("spot_values.txt").read_text("utf-8").splitlines():
+    for line in Path(__file__).with_name("spot_values.list").read_text("utf-8").splitlines():
         if line.startswith("["):
             here = spots.setdefault(line.strip("[]"), [])
         elif line and not line.startswith("#"):
