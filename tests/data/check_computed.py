@@ -10,30 +10,6 @@ import atmosphere  # noqa: E402
 
 
 class Atmosphere(unittest.TestCase):
-    def test_against_the_printed_standard(self):
-        """U.S. Standard Atmosphere 1976, tables I and IV: K, kPa, kg/m3."""
-        printed = {
-            "1000": (281.651, 89.876, 1.1117),
-            "5000": (255.676, 54.048, 0.73643),
-            "11000": (216.774, 22.700, 0.36480),
-            "20000": (216.650, 5.5293, 0.088910),
-            "30000": (226.509, 1.1970, 0.018410),
-            "50000": (270.650, 0.079779, 0.0010269),
-            "70000": (219.585, 0.0052209, 0.000082829),
-            "80000": (198.639, 0.0010524, 0.000018458),
-        }
-        rows = Table("Std_Atm_SI.dat").by_key()
-        for altitude, values in printed.items():
-            row = rows[altitude]
-            for text, value in zip((row[1], row[3], row[5]), values, strict=True):
-                self.assertLess(abs(float(text) / value - 1), 1e-4, (altitude, text, value))
-        printed = {"10000": (23.36, 10.108, 1077.4), "20000": (-12.26, 6.7588, 1036.9)}
-        rows = Table("Std_Atm_US.dat").by_key()
-        for altitude, values in printed.items():
-            row = rows[altitude]
-            for text, value in zip((row[2], row[3], row[8]), values, strict=True):
-                self.assertLess(abs(float(text) / value - 1), 1e-3, (altitude, text, value))
-
     def test_air_against_measurements(self):
         """NBS Circular 564 (Hilsenrath et al., 1955), tables of air at one atmosphere: K; kg/m3,
         J/kg K, Pa s, W/m K."""
@@ -59,16 +35,6 @@ class Gauges(unittest.TestCase):
                 if "Music" in table.rows[0][column]:
                     sizes.reverse()
                 self.assertEqual(sizes, sorted(sizes, reverse=True), table.rows[0][column])
-
-    def test_against_charts(self):
-        wire = Table("Wire_Gauges_m.dat").by_key()
-        self.assertEqual(wire["16"][1:], ["1.291", "1.588", "1.626", "1.651", "0.940"])
-        self.assertEqual(wire["2/0"][1:5], ["9.266", "8.407", "8.839", "9.652"])
-        sheet = Table("Sheet_Gauges.dat").by_key()
-        charts = {"11": (0.1196, 0.1233, 0.125, 0.0907), "16": (0.0598, 0.0635, 0.0625, 0.0508),
-                  "24": (0.0239, 0.0276, 0.025, 0.0201), "30": (0.012, 0.0157, 0.0125, 0.01)}
-        for gauge, sizes in charts.items():
-            self.assertEqual(tuple(float(cell) for cell in sheet[gauge][1::2]), sizes, gauge)
 
     def test_aluminum_wire_has_the_resistance_that_the_code_prints(self):
         """NFPA 70, chapter 9, table 8: stranded, some 2 % more than solid; ohms/1000 ft at 75 C."""

@@ -35,13 +35,6 @@ class Currents(unittest.TestCase):
                 powers = [v * float(a) for v, a in zip(volts, row[1:]) if a]
                 self.assertLess(max(powers) / min(powers), 1.38, (name, row))
 
-    def test_against_wall_charts(self):
-        rows = Table("3PH-FLA.DAT").by_key()
-        self.assertEqual([rows[hp][5] for hp in ("1", "10", "50", "200")], ["2.1", "14", "65", "240"])
-        rows = Table("3PH-FLC.DAT").by_key()
-        self.assertEqual([rows[kw][2] for kw in ("0.75", "7.5", "37", "110")],
-                         ["1.9", "15.5", "66", "195"])  # fmt: skip
-
 
 class Nema(unittest.TestCase):
     def test_assigned_frames_have_dimensions_and_grow(self):

@@ -1,7 +1,8 @@
 """Checks that the U.S. and the metric file of a table tell the same, cell by cell.
 
 Which files are pairs is read from the menu; which columns, from their order; by what they differ,
-from the units in their headings.
+from the units in their headings. Where each has the steps of its own system, the metric values lie
+between the U.S. ones. Files with other columns and steps are after standards of their own.
 """
 
 import re
@@ -41,6 +42,17 @@ FACTORS = {
     ("10^-6/°F", "10^-6/K"): 1.8,
     ("hp", "kW"): 0.745699872,
     ("ft·lbf/in", "J/m"): LBF * FOOT / INCH,
+    ("psia", "kPa"): PSI / 1000,
+    ("psi abs", "kPa abs"): PSI / 1000,
+    ("psi gauge", "kPa gauge"): PSI / 1000,
+    ("Btu/lb·°R", "kJ/kg·K"): BTU / POUND * 1.8 / 1000,
+    ("10^-6 lb/ft·s", "µPa·s"): POUND / FOOT,
+    ("10^-6 ft²/s", "mm²/s"): FOOT**2,
+    ("ft²/h", "mm²/s"): FOOT**2 * 1e6 / 3600,
+    ("ft/s", "m/s"): FOOT,
+    ("cfm", "L/min"): 1000 * FOOT**3,
+    ("psi/ft", "kPa/m"): PSI / 1000 / FOOT,
+    ("gpm", "L/s"): 231 * INCH**3 * 1000 / 60,
 }
 TEMPERATURES = {("°F", "°C")}
 
@@ -57,13 +69,32 @@ def numbers(text):
     return [(float(x), 0.5 * 10.0 ** x.as_tuple().exponent) for x in decimals]
 
 
+def same_steps(us, metric):
+    return [row[0] for row in us.body] == [row[0] for row in metric.body]
+
+
+def same_columns(us, metric):
+    return us.shape[1] == metric.shape[1]
+
+
+def follows(us, metric):
+    """Whether the metric table is held against the U.S. one here."""
+    return same_steps(us, metric) or same_columns(us, metric)
+
+
+def in_us(value, unit):
+    if unit in TEMPERATURES:
+        return value * 1.8 + 32
+    return value if unit[0] == unit[1] else value / FACTORS[unit]
+
+
 class Pairs(unittest.TestCase):
     def test_cell_by_cell(self):
         compared = 0
         for us_name, metric_name in menu_pairs():
             us, metric = Table(us_name), Table(metric_name)
-            if [row[0] for row in us.body] != [row[0] for row in metric.body]:
-                continue  # each has the steps of its own system
+            if not same_steps(us, metric):
+                continue
             with self.subTest(us_name):
                 compared += 1
                 for column, heads in enumerate(zip(*metric.rows[: metric.fixed_rows])):
@@ -94,3 +125,35 @@ class Pairs(unittest.TestCase):
             rounding = max(shown[1], 0.05 * abs(shown[0])) if shown[1] == 0.5 else shown[1]
             apart, allowed = abs(wanted - shown[0]), (slack + rounding) * 1.001
             self.assertLessEqual(apart, allowed, (row, text, converted))
+
+    def test_own_steps(self):
+        """Each metric value lies between those of the U.S. rows around it."""
+        compared = 0
+        for us_name, metric_name in menu_pairs():
+            us, metric = Table(us_name), Table(metric_name)
+            if same_steps(us, metric) or not same_columns(us, metric):
+                continue
+            units = list(zip(us.rows[us.fixed_rows - 1], metric.rows[metric.fixed_rows - 1]))
+            if "per 100 ft" in us.title:
+                self.assertIn("per 100 m", metric.title)
+                units = [units[0]] + [("psi/ft", "kPa/m")] * (len(units) - 1)
+            keys = [float(row[0]) for row in us.body]
+            for row in metric.body:
+                key = in_us(float(row[0]), units[0])
+                for n in (n for n in range(1, len(keys)) if keys[n - 1] < key <= keys[n]):
+                    around = us.body[n - 1 : n + 1]
+                    for unit, *texts in list(zip(units, row, *around))[1:]:
+                        if all(texts):
+                            compared += 1
+                            with self.subTest(metric_name, row=row[0]):
+                                self.between(*texts, unit)
+        self.assertGreater(compared, 1000)
+
+    def between(self, text, one, other, unit):
+        value, rounding = numbers(text)[0]
+        slack = abs(in_us(rounding, unit) - in_us(0, unit)) + numbers(one)[0][1]
+        ends = float(one), float(other)
+        # A curve is a little higher at its peak than on both sides.
+        slack += 0.02 * abs(ends[0] - ends[1]) + 2e-4 * abs(ends[0])
+        value = in_us(value, unit)
+        self.assertTrue(min(ends) - slack <= value <= max(ends) + slack, (value, *ends))
