@@ -346,6 +346,7 @@ const std::vector<Example>& Examples() {
         {"txt_voltage", "24"},
         {"txt_charging_time", "0.04"}},
        "txt_charging_time"},
+      {"PERIODIC", {{"txt_search", "Fe"}}, {{"txt_search", "Kr"}}, "txt_search"},
       {"pipedata",
        {{"cmb_size", "6"}, {"cmb_wall", "80, XS"}},
        {{"cmb_standard", "Copper Tube, ASTM B88 and B306"}, {"cmb_size", "2"}, {"cmb_wall", "K"}},
