@@ -221,7 +221,7 @@ void Combo::Chosen() { text_ = Choice::Text(); }
 // ---- Commands, options, check boxes ----
 
 Command::Command(Window& window, std::string name, const UnitText& caption)
-    : FocusControl(window, std::move(name), Kind::Command) {
+    : FacedControl(window, std::move(name), Kind::Command) {
   caption_ = InUnits(caption);
 }
 
@@ -229,13 +229,13 @@ void Command::Click() {
   if (onClick) onClick();
 }
 
-void Command::ShowFace(Drawing face) {
+void FacedControl::ShowFace(Drawing face) {
   face_ = std::move(face);
   Changed();
 }
 
 Option::Option(OptionGroup& group, std::string name, const UnitText& caption)
-    : FocusControl(group.Owner(), std::move(name), Kind::Option), group_(group) {
+    : FacedControl(group.Owner(), std::move(name), Kind::Option), group_(group) {
   caption_ = InUnits(caption);
   group.options_.push_back(this);
   if (group.chosen_ == nullptr) group.chosen_ = this;

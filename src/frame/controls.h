@@ -329,19 +329,24 @@ class Combo : public Choice {
   Style style_;
 };
 
-class Command : public FocusControl {
+/// Something to click, which can show a picture; its caption is then its tool tip.
+class FacedControl : public FocusControl {
+ public:
+  using FocusControl::FocusControl;
+
+  const Drawing& Face() const { return face_; }
+  void ShowFace(Drawing face);
+
+ private:
+  Drawing face_;
+};
+
+class Command : public FacedControl {
  public:
   Command(Window& window, std::string name, const UnitText& caption);
   void Click();
 
-  /// A command that shows a picture has its caption as tool tip.
-  const Drawing& Face() const { return face_; }
-  void ShowFace(Drawing face);
-
   Handler onClick;
-
- private:
-  Drawing face_;
 };
 
 class Option;
@@ -360,7 +365,8 @@ class OptionGroup : public Frame {
   Option* chosen_ = nullptr;
 };
 
-class Option : public FocusControl {
+/// One that shows a picture is nothing but that, so the picture tells whether it is on.
+class Option : public FacedControl {
  public:
   Option(OptionGroup& group, std::string name, const UnitText& caption);
 

@@ -44,6 +44,8 @@ struct Letters {
   std::string text;
   double height = 10;  ///< of capital letters, in drawing units
   Ink ink = Ink::Line;
+  /// Instead of the ink, on a tint: the same in every palette.
+  std::optional<Color> tint = {};
 };
 
 /// The picture of a window that was captured last.

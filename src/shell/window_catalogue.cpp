@@ -32,6 +32,7 @@
 #include "hvac/valve_cv.h"
 #include "hvac/water_hammer.h"
 #include "hvac/wind_chill.h"
+#include "materials/periodic.h"
 #include "materials/pipedata.h"
 #include "materials/sched40.h"
 #include "math/areas.h"
@@ -143,6 +144,7 @@ constexpr WindowUnit kUnits[] = {
     {"Rod_Buckling_Calc", Make<Rod_Buckling_Calc>},
     {"Pipe_Bursting_Pressure", Make<Pipe_Bursting_Pressure>},
     // Materials
+    {"PERIODIC", Make<PERIODIC>},
     {"pipedata", Make<pipedata>},
     {"Sched40", Make<Sched40>},
     // Stress

@@ -16,10 +16,14 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <cstdlib>
+#include <limits>
 #include <optional>
+#include <type_traits>
 
 #include "frame/session.h"
 #include "toolkit/contrast.h"
@@ -198,31 +202,48 @@ class ListView final : public ViewOf<ListBox, QListWidget> {
 // ---- Buttons ----
 
 /// A button with a text, or a drawing in its place.
-class CommandButton final : public QPushButton {
+template <class Button>
+class Faced : public Button {
  public:
-  using QPushButton::QPushButton;
+  using Button::Button;
 
-  void Draw(const Drawing& face) {
-    face_ = face;
-    updateGeometry();
-    update();
+  void Tell(const FacedControl& control) {
+    face_ = control.Face();
+    const QString caption = ToQt(control.Caption());
+    this->setText(HasFace() ? QString() : caption);
+    this->setToolTip(HasFace() ? caption : QString());
+    this->setAccessibleName(HasFace() ? caption : QString());
+    this->updateGeometry();
+    this->update();
   }
 
+ protected:
+  bool HasFace() const { return !face_.shapes.empty(); }
+  QSize FaceSize() const { return SizeOf(face_, this->fontMetrics()).toSize(); }
+  void PaintFace() {
+    QPainter painter(this);
+    Paint(painter, this->rect(), face_, this->palette());
+  }
+
+ private:
+  Drawing face_;
+};
+
+class CommandButton final : public Faced<QPushButton> {
+ public:
+  using Faced::Faced;
+
   QSize sizeHint() const override {
-    if (face_.shapes.empty()) return QPushButton::sizeHint();
+    if (!HasFace()) return QPushButton::sizeHint();
     const int margin = style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, this);
-    return SizeOf(face_, fontMetrics()).toSize() + QSize(margin, margin);
+    return FaceSize() + QSize(margin, margin);
   }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     QPushButton::paintEvent(event);
-    QPainter painter(this);
-    Paint(painter, rect(), face_, palette());
+    PaintFace();
   }
-
- private:
-  Drawing face_;
 };
 
 class CommandView final : public ViewOf<Command, CommandButton> {
@@ -235,24 +256,45 @@ class CommandView final : public ViewOf<Command, CommandButton> {
 
  private:
   void RefreshContent() override {
-    const QString caption = ToQt(model_.Caption());
-    const bool drawn = !model_.Face().shapes.empty();
-    shown_.setText(drawn ? QString() : caption);
-    shown_.setToolTip(drawn ? caption : QString());
-    shown_.setAccessibleName(drawn ? caption : QString());
-    shown_.Draw(model_.Face());
+    shown_.Tell(model_);
     shown_.setDefault(model_.Owner().DefaultCommand() == &model_);
   }
 };
 
 /// A button whose mark the model alone sets: a click asks for it.
 template <class Button>
-class Marked final : public Button {
+class Marked : public Button {
  public:
   using Button::Button;
 
  protected:
   void nextCheckState() override {}
+};
+
+/// An option with a text, or nothing but a drawing, which can be clicked all over.
+class OptionButton final : public Faced<Marked<QRadioButton>> {
+ public:
+  using Faced::Faced;
+
+  QSize sizeHint() const override { return HasFace() ? FaceSize() : QRadioButton::sizeHint(); }
+
+ protected:
+  bool hitButton(const QPoint& point) const override {
+    return HasFace() ? rect().contains(point) : QRadioButton::hitButton(point);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    if (!HasFace()) {
+      QRadioButton::paintEvent(event);
+      return;
+    }
+    PaintFace();
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+  }
 };
 
 /// Of an option or check box: a person clicks it, an assistive program may turn its mark over.
@@ -271,15 +313,18 @@ class MarkView : public ViewOf<Model, Button> {
 
  private:
   void RefreshContent() override {
-    this->shown_.setText(ToQt(this->model_.Caption()));
+    if constexpr (std::is_base_of_v<FacedControl, Model>)
+      this->shown_.Tell(this->model_);
+    else
+      this->shown_.setText(ToQt(this->model_.Caption()));
     this->shown_.setChecked(this->model_.IsOn());
   }
 };
 
-class OptionView final : public MarkView<Option, QRadioButton> {
+class OptionView final : public MarkView<Option, OptionButton> {
  public:
   OptionView(Option& option, const Person& person, QWidget& parent)
-      : MarkView(option, new Marked<QRadioButton>(&parent), person) {
+      : MarkView(option, new OptionButton(&parent), person) {
     // Radio buttons of one parent exclude one another unless they are in a group.
     auto* alone = new QButtonGroup(&shown_);
     alone->setExclusive(false);
@@ -292,7 +337,12 @@ class OptionView final : public MarkView<Option, QRadioButton> {
     if (event->type() == QEvent::KeyPress) {
       const int key = static_cast<QKeyEvent*>(event)->key();
       const bool on = key == Qt::Key_Down || key == Qt::Key_Right;
-      if (on || key == Qt::Key_Up || key == Qt::Key_Left) {
+      const bool upright = key == Qt::Key_Down || key == Qt::Key_Up;
+      if (upright && !model_.Face().shapes.empty()) {
+        Climb(on ? 1 : -1);
+        return true;
+      }
+      if (on || upright || key == Qt::Key_Left) {
         Walk(on ? 1 : -1);
         return true;
       }
@@ -313,6 +363,23 @@ class OptionView final : public MarkView<Option, QRadioButton> {
         return;
       }
     }
+  }
+
+  /// To the next option below, or above for -1: pictures may stand in a chart.
+  void Climb(int step) {
+    const QPoint here = shown_.mapToGlobal(QPoint());
+    Option* nearest = nullptr;
+    int least = std::numeric_limits<int>::max();
+    for (Option* option : model_.Group().Options()) {
+      const auto* widget = shown_.window()->findChild<QWidget*>(ToQt(option->Name()));
+      if (widget == nullptr || !option->CanFocus()) continue;
+      const QPoint away = widget->mapToGlobal(QPoint()) - here;
+      const int distance = step * away.y();
+      if (distance <= 0 || distance >= least || 2 * std::abs(away.x()) > shown_.width()) continue;
+      least = distance;
+      nearest = option;
+    }
+    if (nearest != nullptr) person_.Clicks(*nearest);
   }
 };
 

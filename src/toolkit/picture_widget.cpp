@@ -44,7 +44,7 @@ void Paint(QPainter& painter, const Letters& letters, const QPalette& palette) {
   const double scale = letters.height / QFontMetricsF(font).capHeight();
   painter.save();
   painter.setFont(font);
-  painter.setPen(ColorOf(letters.ink, palette));
+  painter.setPen(letters.tint ? QColor::fromRgb(letters.tint->rgb) : ColorOf(letters.ink, palette));
   painter.translate(letters.at.x, letters.at.y);
   painter.scale(scale, scale);
   const QString text = ToQt(letters.text);

@@ -2,7 +2,7 @@
 
 Which files are pairs is read from the menu; which columns, from their order; by what they differ,
 from the units in their headings. Where each has the steps of its own system, the metric values lie
-between the U.S. ones. Files with other columns are after standards of their own.
+between the U.S. ones. Files with other columns and steps are after standards of their own.
 """
 
 import re

@@ -21,6 +21,7 @@ GENERATE = ROOT / "tools" / "tables" / "generate.py"
 RECORDS = {
     "BELTDATA.DAT",
     "Conversion_Factors.dat",
+    "Elements.dat",
     "Hazard_Class.dat",
     "SHEAVES.dat",
     "SPROCKET.dat",
