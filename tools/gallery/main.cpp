@@ -350,6 +350,13 @@ const std::vector<Example>& Examples() {
        {{"cmb_size", "6"}, {"cmb_wall", "80, XS"}},
        {{"cmb_standard", "Copper Tube, ASTM B88 and B306"}, {"cmb_size", "2"}, {"cmb_wall", "K"}},
        "cmb_wall"},
+      {"Wbeams", {{"txt_search", "W12x26"}}, {{"txt_search", "W310x38.7"}}, "txt_search"},
+      {"stl_chan", {{"txt_search", "C10x15.3"}}, {{"txt_search", "C250x22.8"}}, "txt_search"},
+      {"SteelAng", {{"txt_search", "L4x4x1/2"}}, {{"txt_search", "L102x102x12.7"}}, "txt_search"},
+      {"Structural_Tubing",
+       {{"txt_search", "HSS8x4x1/4"}},
+       {{"txt_search", "HSS203.2x101.6x6.4"}},
+       "txt_search"},
   };
   return examples;
 }
