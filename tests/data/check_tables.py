@@ -29,6 +29,7 @@ RECORDS = {
     "conductors.dat",
     "dielect.dat",
     "pipe.dat",
+    "SHAPES.dat",
     "solvents.dat",
 }
 
