@@ -1,55 +1,34 @@
 #include "materials/steelang.h"
 
 #include "frame/session.h"
+#include "materials/shape_columns.h"
 #include "materials/shape_drawing.h"
 
 namespace korvane {
 namespace {
 
-enum Column {
-  kLong,
-  kShort,
-  kThickness,
-  kK,
-  kFillet,
-  kToe,
-  kWeight,
-  kArea,
-  kIx,
-  kSx,
-  kRx,
-  kZx,
-  kY,
-  kIy,
-  kSy,
-  kRy,
-  kZy,
-  kX
-};
+enum Column { kLong, kShort, kThickness, kK, kFillet, kToe };
 
-constexpr ShapeColumn kColumns[] = {
+constexpr ShapeColumn kDimensions[] = {
     {"txt_long_leg", "Long Leg, d", Measure::Length},
     {"txt_short_leg", "Short Leg, b", Measure::Length},
     {"txt_thickness", "Thickness, t", Measure::Length},
     {"txt_k", "Face to Toe of Fillet, k", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {"txt_weight", "Weight", Measure::Weight},
-    {"txt_area", "Area, A", Measure::Area},
-    {"txt_ix", "Moment of Inertia, Ix", Measure::Inertia},
-    {"txt_sx", "Section Modulus, Sx", Measure::Modulus},
-    {"txt_rx", "Radius of Gyration, rx", Measure::Length},
-    {"txt_zx", "Plastic Modulus, Zx", Measure::Modulus},
-    {"txt_y", "Centroid from Back, y", Measure::Length},
-    {"txt_iy", "Moment of Inertia, Iy", Measure::Inertia},
-    {"txt_sy", "Section Modulus, Sy", Measure::Modulus},
-    {"txt_ry", "Radius of Gyration, ry", Measure::Length},
-    {"txt_zy", "Plastic Modulus, Zy", Measure::Modulus},
-    {"txt_x", "Centroid from Back, x", Measure::Length},
+    kUntold,
+    kUntold,
+};
+constexpr ShapeColumn kCentroidY[] = {{"txt_y", "Centroid from Back, y", Measure::Length}};
+constexpr ShapeColumn kAboutZ[] = {
     {"txt_rz", "Least Radius of Gyration, rz", Measure::Length},
     {"txt_tan", "Slope of z to y, tan a", Measure::Ratio},
-    {"txt_j", "Torsional Constant, J", Measure::Torsion},
 };
+
+constexpr auto kBeforeY = Joined(kDimensions, kMass, kAboutX);
+constexpr auto kBeforeX = Joined(kDimensions, kMass, kAboutX, kCentroidY, kAboutY);
+constexpr auto kColumns =
+    Joined(kDimensions, kMass, kAboutX, kCentroidY, kAboutY, kCentroidX, kAboutZ, kTorsion);
+
+constexpr int kY = kBeforeY.size(), kX = kBeforeX.size();
 
 // The heel is at the origin.
 Drawing Draw(const ShownShape& shape) {

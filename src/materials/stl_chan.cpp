@@ -1,58 +1,21 @@
 #include "materials/stl_chan.h"
 
 #include "frame/session.h"
+#include "materials/shape_columns.h"
 #include "materials/shape_drawing.h"
 
 namespace korvane {
 namespace {
 
-enum Column {
-  kDepth,
-  kWidth,
-  kWeb,
-  kFlange,
-  kK,
-  kFillet,
-  kToe,
-  kSlope,
-  kWeight,
-  kArea,
-  kIx,
-  kSx,
-  kRx,
-  kZx,
-  kIy,
-  kSy,
-  kRy,
-  kZy,
-  kX
-};
+constexpr auto kBeforeX = Joined(flanged::kDimensions, kMass, kAboutX, kAboutY);
+constexpr auto kColumns =
+    Joined(flanged::kDimensions, kMass, kAboutX, kAboutY, kCentroidX, kTorsion);
 
-constexpr ShapeColumn kColumns[] = {
-    {"txt_depth", "Depth, d", Measure::Length},
-    {"txt_width", "Flange Width, bf", Measure::Length},
-    {"txt_web", "Web Thickness, tw", Measure::Length},
-    {"txt_flange", "Flange Thickness, tf", Measure::Length},
-    {"txt_k", "Face to Toe of Fillet, k", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {nullptr, "", Measure::Ratio},
-    {"txt_weight", "Weight", Measure::Weight},
-    {"txt_area", "Area, A", Measure::Area},
-    {"txt_ix", "Moment of Inertia, Ix", Measure::Inertia},
-    {"txt_sx", "Section Modulus, Sx", Measure::Modulus},
-    {"txt_rx", "Radius of Gyration, rx", Measure::Length},
-    {"txt_zx", "Plastic Modulus, Zx", Measure::Modulus},
-    {"txt_iy", "Moment of Inertia, Iy", Measure::Inertia},
-    {"txt_sy", "Section Modulus, Sy", Measure::Modulus},
-    {"txt_ry", "Radius of Gyration, ry", Measure::Length},
-    {"txt_zy", "Plastic Modulus, Zy", Measure::Modulus},
-    {"txt_x", "Centroid from Back, x", Measure::Length},
-    {"txt_j", "Torsional Constant, J", Measure::Torsion},
-};
+constexpr int kX = kBeforeX.size();
 
 // The back of the web is at x = 0; sloped flanges measure as those of beams.
 Drawing Draw(const ShownShape& shape) {
+  using namespace flanged;
   const double half = shape[kDepth] / 2, side = shape[kWidth], web = shape[kWeb];
   const double rise = shape[kSlope] * (side - web) / 2;
   const double inner = half - shape[kFlange];

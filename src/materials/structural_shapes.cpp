@@ -53,7 +53,8 @@ std::string InSmall(std::string_view text) {
 }  // namespace
 
 std::optional<std::vector<Shape>> ReadShapes(std::string_view bytes, std::string_view key,
-                                             std::string_view kind, std::size_t columns) {
+                                             std::string_view kind,
+                                             std::span<const ShapeColumn> columns) {
   DelimitedReader reader(bytes);
   const std::string head = std::string(key) + ',' + std::string(kind);
   do {
@@ -66,9 +67,11 @@ std::optional<std::vector<Shape>> ReadShapes(std::string_view bytes, std::string
     shape.us = reader.Text();
     if (shape.us.starts_with('[')) break;  // the next section
     shape.metric = reader.Text();
-    for (std::size_t i = 0; i < columns; ++i) {
+    for (const ShapeColumn& column : columns) {
       shape.texts.push_back(reader.Text());
-      shape.values.push_back(Strict(shape.texts.back()));
+      const Double value = Strict(shape.texts.back());
+      if (value < 0 || (value == 0 && column.field != nullptr)) failures::InvalidCall();
+      shape.values.push_back(value);
     }
     shapes.push_back(std::move(shape));
   }
@@ -122,8 +125,8 @@ Layout StructuralShapes::Arrangement() {
 void StructuralShapes::Load() {
   CalculatorWindow::Load();
   GetSession().DataFileName = kShapesFile;
-  auto shapes = ReadShapes(GetSession().ReadTable(kShapesFile), choice_.section, kind_.kind,
-                           kind_.columns.size());
+  auto shapes =
+      ReadShapes(GetSession().ReadTable(kShapesFile), choice_.section, kind_.kind, kind_.columns);
   if (!shapes || shapes->empty()) {
     GetSession().Message("No section " + choice_.section + " in file " + kShapesFile + '.',
                          Icon::Exclamation);
@@ -135,20 +138,20 @@ void StructuralShapes::Load() {
 
 void StructuralShapes::ListShapes() {
   std::vector<std::string> items;
-  for (const Shape& shape : shapes_) items.push_back(shape.Designation(IsMetric()));
+  for (const Shape& shape : shapes_) items.push_back(shape.Designation(metric_));
   lst_shapes.SetItems(std::move(items));
   lst_shapes.Select(0);
 }
 
 /// The first shape from this place around whose designation begins with the text; if none does, one
 /// that has it within. The designation that is listed counts before the one of the other units.
-void StructuralShapes::Seek(std::size_t from) {
+void StructuralShapes::Seek(int from) {
   const std::string wanted = InSmall(txt_search.Text());
   if (wanted.empty()) return;
-  for (const bool metric : {IsMetric(), !IsMetric()}) {
+  for (const bool metric : {metric_, !metric_}) {
     for (const bool atStart : {true, false}) {
       for (std::size_t i = 0; i < shapes_.size(); ++i) {
-        const std::size_t at = (from + i) % shapes_.size();
+        const std::size_t at = (static_cast<std::size_t>(from) + i) % shapes_.size();
         const auto found = InSmall(shapes_[at].Designation(metric)).find(wanted);
         if (found == std::string::npos || (atStart && found > 0)) continue;
         lst_shapes.Select(static_cast<int>(at));
@@ -158,21 +161,21 @@ void StructuralShapes::Seek(std::size_t from) {
   }
 }
 
-void StructuralShapes::SeekNext() { Seek(static_cast<std::size_t>(lst_shapes.Index() + 1)); }
+void StructuralShapes::SeekNext() { Seek(lst_shapes.Index() + 1); }
 
 std::string StructuralShapes::Shown(const Shape& shape, std::size_t column) const {
   const Measure measure = kind_.columns[column].measure;
   const Double value = shape.values[column];
   if (measure == Measure::Ratio) return shape.texts[column];
-  if (IsMetric()) return ThreeDigits(value * UnitsOf(measure).factor);
+  if (metric_) return ThreeDigits(value * UnitsOf(measure).factor);
   return value >= 1000 ? Format(value, "#,##0") : shape.texts[column];
 }
 
 void StructuralShapes::ShowShape() {
   const Shape& shape = shapes_[static_cast<std::size_t>(lst_shapes.Index())];
   lbl_shape.SetCaption(choice_.material.empty()
-                           ? shape.Designation(IsMetric())
-                           : choice_.material + ' ' + shape.Designation(IsMetric()));
+                           ? shape.Designation(metric_)
+                           : choice_.material + ' ' + shape.Designation(metric_));
   txt_us.SetText(shape.us);
   txt_metric.SetText(shape.metric);
   std::vector<std::string> texts;

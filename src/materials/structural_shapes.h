@@ -38,9 +38,10 @@ struct Shape {
 
 /// The shapes of a section, which is headed by its key and kind; none if no section is headed so.
 /// Fails with "Input past end of file" if it ends within a record, "Type mismatch" for a value that
-/// is no number.
+/// is no number, "Invalid procedure call or argument" for one below 0, or for 0 in a field.
 std::optional<std::vector<Shape>> ReadShapes(std::string_view bytes, std::string_view key,
-                                             std::string_view kind, std::size_t columns);
+                                             std::string_view kind,
+                                             std::span<const ShapeColumn> columns);
 
 /// A shape with its values as they are shown, which the drawing bears.
 struct ShownShape {
@@ -75,7 +76,7 @@ class StructuralShapes : public CalculatorWindow {
   Layout Arrangement() override;
 
   void ListShapes();
-  void Seek(std::size_t from);
+  void Seek(int from);
   void SeekNext();
   std::string Shown(const Shape& shape, std::size_t column) const;
   void ShowShape();
@@ -83,6 +84,8 @@ class StructuralShapes : public CalculatorWindow {
 
   const ShapeWindow& kind_;
   const ShapeChoice choice_;
+  // As at the load: a change of units leaves the list and the captions, so it leaves all.
+  const bool metric_ = IsMetric();
   std::vector<Shape> shapes_;
 
   TextField txt_search{*this, "txt_search", "Search"};

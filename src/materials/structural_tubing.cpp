@@ -5,6 +5,7 @@
 
 #include "frame/names.h"
 #include "frame/session.h"
+#include "materials/shape_columns.h"
 #include "materials/shape_drawing.h"
 
 namespace korvane {
@@ -12,24 +13,15 @@ namespace {
 
 enum Column { kDepth, kWidth, kWall, kOuter, kInner };
 
-constexpr ShapeColumn kColumns[] = {
+constexpr ShapeColumn kDimensions[] = {
     {"txt_depth", "Depth, d", Measure::Length},
     {"txt_width", "Width, b", Measure::Length},
     {"txt_wall", "Design Wall Thickness, t", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {nullptr, "", Measure::Length},
-    {"txt_weight", "Weight", Measure::Weight},
-    {"txt_area", "Area, A", Measure::Area},
-    {"txt_ix", "Moment of Inertia, Ix", Measure::Inertia},
-    {"txt_sx", "Section Modulus, Sx", Measure::Modulus},
-    {"txt_rx", "Radius of Gyration, rx", Measure::Length},
-    {"txt_zx", "Plastic Modulus, Zx", Measure::Modulus},
-    {"txt_iy", "Moment of Inertia, Iy", Measure::Inertia},
-    {"txt_sy", "Section Modulus, Sy", Measure::Modulus},
-    {"txt_ry", "Radius of Gyration, ry", Measure::Length},
-    {"txt_zy", "Plastic Modulus, Zy", Measure::Modulus},
-    {"txt_j", "Torsional Constant, J", Measure::Torsion},
+    kUntold,
+    kUntold,
 };
+
+constexpr auto kColumns = Joined(kDimensions, kMass, kAboutX, kAboutY, kTorsion);
 
 Outline BoxOf(double side, double half, double radius) {
   return MirroredAcross(MirroredUpwards({{side, half, radius}}));

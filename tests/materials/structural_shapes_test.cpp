@@ -22,8 +22,15 @@ const std::string kSound =
     "\"C1x1\",\"C25x1\",1.00,0.500,2\r\n"
     "[NONE],beam\r\n";
 
+constexpr ShapeColumn kColumns[] = {
+    {"txt_depth", "Depth", Measure::Length},
+    {nullptr, "", Measure::Length},
+    {"txt_area", "Area", Measure::Area},
+};
+constexpr std::span<const ShapeColumn> kTwo(kColumns, 2);
+
 TEST(Shapes, AreReadBySectionAndKind) {
-  const auto beams = ReadShapes(kSound, "[ONE]", "beam", 2);
+  const auto beams = ReadShapes(kSound, "[ONE]", "beam", kTwo);
   ASSERT_TRUE(beams);
   ASSERT_EQ(beams->size(), 2U);
   const Shape& last = beams->back();
@@ -31,23 +38,27 @@ TEST(Shapes, AreReadBySectionAndKind) {
   EXPECT_EQ(last.metric, "W25x3");
   EXPECT_EQ(last.texts, (Lines{"1.10", "12"}));
   EXPECT_DOUBLE_EQ(last[0], 1.1);
-  EXPECT_EQ(ReadShapes(kSound, "[ONE]", "channel", 3)->size(), 1U);
-  EXPECT_TRUE(ReadShapes(kSound, "[NONE]", "beam", 2)->empty());
+  EXPECT_EQ(ReadShapes(kSound, "[ONE]", "channel", kColumns)->size(), 1U);
+  EXPECT_TRUE(ReadShapes(kSound, "[NONE]", "beam", kTwo)->empty());
 
-  EXPECT_FALSE(ReadShapes(kSound, "[TWO]", "beam", 2));
-  EXPECT_FALSE(ReadShapes(kSound, "[ONE]", "angle", 2));
-  EXPECT_FALSE(ReadShapes(kSound, "ONE]", "beam", 2));
-  EXPECT_FALSE(ReadShapes("", "[ONE]", "beam", 2));
+  EXPECT_FALSE(ReadShapes(kSound, "[TWO]", "beam", kTwo));
+  EXPECT_FALSE(ReadShapes(kSound, "[ONE]", "angle", kTwo));
+  EXPECT_FALSE(ReadShapes(kSound, "ONE]", "beam", kTwo));
+  EXPECT_FALSE(ReadShapes("", "[ONE]", "beam", kTwo));
 
   const auto fails = [](const std::string& from, const std::string& to) {
     std::string text = kSound;
     text.replace(text.find(from), from.size(), to);
-    return FailureOf([&] { ReadShapes(text, "[ONE]", "beam", 2); });
+    return FailureOf([&] { ReadShapes(text, "[ONE]", "beam", kTwo); });
   };
   EXPECT_EQ(fails("1.10", "deep"), kTypeMismatch);
+  EXPECT_EQ(fails("1.10", "0"), kInvalidCall);
+  EXPECT_EQ(fails("0.500", "-0.5"), kInvalidCall);
+  EXPECT_EQ(fails("0.500", "0"), 0);  // a radius may be none
   EXPECT_EQ(fails(",12\r\n[ONE],channel", "\r\n[ONE],channel"), kTypeMismatch);
-  EXPECT_EQ(FailureOf([] { ReadShapes("[ONE],beam\r\n\"W1x1\",\"W25x1\",1", "[ONE]", "beam", 2); }),
-            kInputPastEnd);
+  EXPECT_EQ(
+      FailureOf([] { ReadShapes("[ONE],beam\r\n\"W1x1\",\"W25x1\",1", "[ONE]", "beam", kTwo); }),
+      kInputPastEnd);
 }
 
 class ShapeWindows : public ::testing::Test {
