@@ -27,7 +27,7 @@ Drawing Draw(const ShownShape& shape) {
   drawing.AddAxes(shape[kX], 0);
   drawing.AddDepth("d = " + shape.Text(kDepth));
   drawing.AddWidth("bf = " + shape.Text(kWidth));
-  drawing.AddWall(0, web, half * 0.45, "tw = " + shape.Text(kWeb));
+  drawing.AddWall(0, web, -half * 0.45, "tw = " + shape.Text(kWeb));
   drawing.AddFlange(half, inner, (side + web) / 2, "tf = " + shape.Text(kFlange));
   return drawing.Take();
 }

@@ -21,7 +21,7 @@ Drawing Draw(const ShownShape& shape) {
   drawing.AddAxes(0, 0);
   drawing.AddDepth("d = " + shape.Text(kDepth));
   drawing.AddWidth("bf = " + shape.Text(kWidth));
-  drawing.AddWall(-web, web, half * 0.45, "tw = " + shape.Text(kWeb));
+  drawing.AddWall(-web, web, -half * 0.45, "tw = " + shape.Text(kWeb));
   drawing.AddFlange(half, inner, (side + web) / 2, "tf = " + shape.Text(kFlange));
   return drawing.Take();
 }

@@ -102,8 +102,7 @@ def published(rows, letter):
             values = dict(zip(names, row[1])) | {"W": pounds}
             if web is None:
                 values |= {"fillet": fillet, "toe": "0", "slope": "0"}
-                values["k"] = fixed(Fraction(values["tf"]) + Fraction(fillet), 3)
-                values["k"] = three(float(values["k"]))
+                values["k"] = three(float(Fraction(values["tf"]) + Fraction(fillet)))
             else:
                 toe = fixed(web * Fraction("0.6"), 3)
                 radius = fixed(web + Fraction("0.1"), 3)
