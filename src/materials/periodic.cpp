@@ -2,7 +2,7 @@
 
 #include "frame/mask.h"
 #include "frame/session.h"
-#include "materials/pipes.h"
+#include "materials/digits.h"
 
 namespace korvane {
 namespace {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/session.h"
+#include "materials/digits.h"
 
 namespace korvane {
 namespace {

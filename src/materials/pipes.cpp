@@ -4,7 +4,6 @@
 #include <numbers>
 
 #include "frame/delimited.h"
-#include "frame/mask.h"
 
 namespace korvane {
 namespace {
@@ -109,23 +108,6 @@ std::vector<Pipe> ParsePipes(std::string_view bytes) {
     if (std::ranges::find(pipes, &standard, &Pipe::standard) == pipes.end())
       failures::InputPastEnd();
   return pipes;
-}
-
-std::string FourDigits(Double value) {
-  struct Step {
-    double least;
-    Mask mask;
-  };
-  static constexpr Step steps[] = {
-      {1000, "#,##0"}, {100, "0.0"},      {10, "0.00"},        {1, "0.000"},
-      {0.1, "0.0000"}, {0.01, "0.00000"}, {0.001, "0.000000"}, {0, "0.0000000"},
-  };
-  Double unit = 1;  // of the last digit that counts, where that is a whole one
-  while (value / unit >= 10000) unit *= 10;
-  const Double rounded = unit > 1 ? Int(value / unit + 0.5) * unit : value;
-  const auto* fitting =
-      std::ranges::find_if(steps, [value](const Step& step) { return value >= step.least; });
-  return Format(rounded, fitting->mask);
 }
 
 Drawing DrawnToScale(const PipeSection& section) {

@@ -61,9 +61,6 @@ struct Pipe {
 /// procedure call or argument" for a standard that is unknown and a wall that can't be.
 std::vector<Pipe> ParsePipes(std::string_view bytes);
 
-/// A value above 0, rounded to four digits that count.
-std::string FourDigits(Double value);
-
 /// The section to scale, with the letters of its measures.
 Drawing DrawnToScale(const PipeSection& section);
 

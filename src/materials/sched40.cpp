@@ -5,6 +5,7 @@
 
 #include "frame/mask.h"
 #include "frame/session.h"
+#include "materials/digits.h"
 
 namespace korvane {
 namespace {

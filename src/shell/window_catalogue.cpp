@@ -35,6 +35,10 @@
 #include "materials/periodic.h"
 #include "materials/pipedata.h"
 #include "materials/sched40.h"
+#include "materials/steelang.h"
+#include "materials/stl_chan.h"
+#include "materials/structural_tubing.h"
+#include "materials/wbeams.h"
 #include "math/areas.h"
 #include "math/decfract.h"
 #include "math/free_fall.h"
@@ -147,6 +151,10 @@ constexpr WindowUnit kUnits[] = {
     {"PERIODIC", Make<PERIODIC>},
     {"pipedata", Make<pipedata>},
     {"Sched40", Make<Sched40>},
+    {"Wbeams", Make<Wbeams>},
+    {"stl_chan", Make<stl_chan>},
+    {"SteelAng", Make<SteelAng>},
+    {"Structural_Tubing", Make<Structural_Tubing>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},

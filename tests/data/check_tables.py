@@ -30,6 +30,7 @@ RECORDS = {
     "conductors.dat",
     "dielect.dat",
     "pipe.dat",
+    "SHAPES.dat",
     "solvents.dat",
 }
 

@@ -42,16 +42,6 @@ TEST(Pipes, AreReadStrictly) {
   EXPECT_EQ(FailureOf([] { ParsePipes(""); }), kInputPastEnd);
 }
 
-TEST(Pipes, ShowFourDigits) {
-  EXPECT_EQ(FourDigits(0.00106386), "0.001064");
-  EXPECT_EQ(FourDigits(0.0996), "0.09960");
-  EXPECT_EQ(FourDigits(9.5), "9.500");
-  EXPECT_EQ(FourDigits(999.94), "999.9");
-  EXPECT_EQ(FourDigits(9999.4), "9,999");
-  EXPECT_EQ(FourDigits(12345), "12,350");
-  EXPECT_EQ(FourDigits(99996), "100,000");
-}
-
 class PipeWindows : public ::testing::Test {
  protected:
   ScriptedSession suite;
