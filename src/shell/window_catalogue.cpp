@@ -65,6 +65,8 @@
 #include "stress/columns2.h"
 #include "stress/moment_i.h"
 #include "stress/plate_deflection.h"
+#include "stress/section_properties.h"
+#include "stress/shape_generator.h"
 
 namespace korvane {
 namespace {
@@ -152,6 +154,8 @@ constexpr WindowUnit kUnits[] = {
     {"MOMENT_I", Make<MOMENT_I>},
     {"Beam_Calc", Make<Beam_Calc>},
     {"Beam_Selector", Make<Beam_Selector>, /*modal=*/true},
+    {"Section_Properties", Make<Section_Properties>},
+    {"shape_generator", Make<shape_generator>, /*modal=*/true},
 };
 
 }  // namespace

@@ -350,6 +350,15 @@ const std::vector<Example>& Examples() {
        {{"cmb_size", "6"}, {"cmb_wall", "80, XS"}},
        {{"cmb_standard", "Copper Tube, ASTM B88 and B306"}, {"cmb_size", "2"}, {"cmb_wall", "K"}},
        "cmb_wall"},
+      {"Section_Properties",
+       {{"Grid1", "0 0\n6 0\n6 2\n3 5\n0 5\n\n1 1\n5 1\n5 1.6\n2.6 4\n1 4"}},
+       {{"Grid1", "0 0\n150 0\n150 50\n75 125\n0 125\n\n25 25\n125 25\n125 40\n65 100\n25 100"}},
+       "txt_density",
+       {"btn_clear"}},
+      {"shape_generator",
+       {{"lst_shape", "Channel"}, {"txt_dimension(2)", "2.5"}},
+       {{"lst_shape", "I-Beam"}, {"txt_angle", "90"}},
+       "txt_dimension(2)"},
   };
   return examples;
 }
@@ -375,9 +384,11 @@ void ClicksInModal(Session& session, const std::string& name) {
 }
 
 void Fill(const Person& person, Control& control, const char* text) {
-  if (auto* combo = dynamic_cast<Combo*>(&control); combo != nullptr && !combo->IsEditable()) {
-    const auto& items = combo->Items();
-    person.Selects(*combo,
+  const auto* combo = dynamic_cast<Combo*>(&control);
+  if (auto* list = dynamic_cast<Choice*>(&control);
+      list != nullptr && (combo == nullptr || !combo->IsEditable())) {
+    const auto& items = list->Items();
+    person.Selects(*list,
                    static_cast<int>(std::find(items.begin(), items.end(), text) - items.begin()));
   } else {
     person.Types(dynamic_cast<FocusControl&>(control), text);
