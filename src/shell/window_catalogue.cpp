@@ -34,6 +34,7 @@
 #include "hvac/wind_chill.h"
 #include "materials/pipedata.h"
 #include "materials/sched40.h"
+#include "materials/sheetmet.h"
 #include "math/areas.h"
 #include "math/decfract.h"
 #include "math/free_fall.h"
@@ -147,6 +148,7 @@ constexpr WindowUnit kUnits[] = {
     // Materials
     {"pipedata", Make<pipedata>},
     {"Sched40", Make<Sched40>},
+    {"SheetMet", Make<SheetMet>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},

@@ -416,6 +416,7 @@ Enclosure Enclose(const std::vector<Outline>& outlines) {
 
   Enclosure enclosure;
   std::vector<Bounds> bounds;
+  bounds.reserve(outlines.size());
   for (const Outline& outline : outlines) bounds.push_back(BoundsOf({outline}));
   double area = 0, perimeter = 0;
   for (std::size_t i = 0; i < outlines.size(); ++i) {
