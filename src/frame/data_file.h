@@ -47,7 +47,7 @@ struct DataFile {
   std::string loadTitle;
   std::vector<Record> records;
   Handler afterLoad;  ///< usually the window's computing command
-  /// Of a file that goes on with lines of a number that nobody knows: what saving writes behind the
+  /// Of a file that goes on with as many lines as its window has: what saving writes behind the
   /// records, and what loading does with it.
   std::function<std::string()> rest = {};
   std::function<void(DelimitedReader&)> acceptRest = {};

@@ -67,7 +67,10 @@ EntryGrid::EntryGrid(Window& window, std::string name, const Beside& caption,
 void EntryGrid::SetEntries(Rows rows) { Take(std::move(rows), kHeadings, kHeadings); }
 
 void EntryGrid::Enter(std::string_view text) {
-  Rows block = BlockOf(text);
+  // A comma within one number parts its thousands, as it does in fields.
+  const std::string alone = CleanPaste(text);
+  const bool one = text.find_first_of("\t\n") == std::string_view::npos && Accepts(alone);
+  Rows block = one ? Rows{{alone}} : BlockOf(text);
   const auto isWord = [this](const std::string& cell) { return !Accepts(cell); };
   if (block.size() > 1 && !IsEmpty(block.front()) && std::ranges::all_of(block.front(), isWord))
     block.erase(block.begin());

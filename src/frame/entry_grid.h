@@ -23,10 +23,10 @@ class EntryGrid final : public Grid {
   const Rows& Entries() const { return rows_; }
   void SetEntries(Rows rows);
 
-  /// What is typed or pasted goes into the current cell, and into those behind and below it where
-  /// it has several: rows parted by line ends, cells by tabs, semicolons, commas or blanks. Rows as
-  /// wide as the grid begin in its first column; a heading above numbers is left out. All of it is
-  /// taken, or nothing.
+  /// One that a cell may hold goes into the current cell. Of others rows are parted by line ends,
+  /// cells by tabs, semicolons, commas or blanks, and go into the current cell and those behind and
+  /// below it; rows as wide as the grid begin in its first column, and a heading above numbers is
+  /// left out. All of it is taken, or nothing.
   void Enter(std::string_view text);
   void ClearCell() { Enter(""); }
   void InsertRow();  ///< an empty one above the current

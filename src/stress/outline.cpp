@@ -343,6 +343,11 @@ std::string TooFew(const Outline& outline) {
          (outline.size() == 1 ? " point" : " points") + "; 3 are the least.";
 }
 
+std::string SameOutline(const Outline& one, const Outline& other) {
+  return "The outlines at point " + std::to_string(one.front().number) + " and at point " +
+         std::to_string(other.front().number) + " are the same.";
+}
+
 /// Adds what one outline encloses about the given origin, or takes it away.
 struct Sums {
   Double area, Sx, Sy, Ix, Iy, Ixy;
@@ -363,6 +368,9 @@ struct Sums {
     }
   }
 };
+
+/// Of a sliver, rounding may leave less than nothing.
+Double AtLeastZero(Double value) { return value < 0 ? Double(0) : value; }
 
 Double NoneIfNoise(Double value, Double scale) {
   constexpr double noise = 1e-10;
@@ -421,8 +429,12 @@ Enclosure Enclose(const std::vector<Outline>& outlines) {
   double area = 0, perimeter = 0;
   for (std::size_t i = 0; i < outlines.size(); ++i) {
     bool hole = false;
-    for (std::size_t j = 0; j < outlines.size(); ++j)
-      if (i != j && bounds[j].Holds(bounds[i]) && meetings.IsInside(i, j)) hole = !hole;
+    for (std::size_t j = 0; j < outlines.size(); ++j) {
+      if (i == j || !bounds[j].Holds(bounds[i]) || !meetings.IsInside(i, j)) continue;
+      if (bounds[i].Holds(bounds[j]) && meetings.IsInside(j, i))
+        return {SameOutline(outlines[i], outlines[j]), {}, {}};
+      hole = !hole;
+    }
     enclosure.holes.push_back(hole);
     area += std::abs(TwiceArea(outlines[i])) / (hole ? -2 : 2);
     perimeter += Perimeter(outlines[i]);
@@ -443,8 +455,8 @@ PlaneSection SectionOf(const std::vector<Outline>& outlines, const std::vector<b
   }
   section.area = sums.area;
   const Double x = sums.Sy / sums.area, y = sums.Sx / sums.area;
-  section.Ix = sums.Ix - sums.area * y * y;
-  section.Iy = sums.Iy - sums.area * x * x;
+  section.Ix = AtLeastZero(sums.Ix - sums.area * y * y);
+  section.Iy = AtLeastZero(sums.Iy - sums.area * x * x);
   section.Ixy = NoneIfNoise(sums.Ixy - sums.area * x * y, section.Polar());
   section.x = NoneIfNoise(x + x0, bounds.Extent());
   section.y = NoneIfNoise(y + y0, bounds.Extent());
@@ -457,7 +469,7 @@ PlaneSection SectionOf(const std::vector<Outline>& outlines, const std::vector<b
   const Double half = NoneIfNoise((section.Ix - section.Iy) / 2, section.Polar());
   const Double radius = Sqrt(half * half + section.Ixy * section.Ixy);
   section.I1 = middle + radius;
-  section.I2 = middle - radius;
+  section.I2 = AtLeastZero(middle - radius);
   section.angle = std::atan2(-section.Ixy.Value(), half.Value()) / 2 * 180 / std::numbers::pi;
   return section;
 }

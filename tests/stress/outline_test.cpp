@@ -54,7 +54,8 @@ TEST(Outlines, TellTheEdgesThatCross) {
       {"0 0, 4 0", "The outline at point 1 has only 2 points; 3 are the least."},
       {"0 0, 4 0, 4 4,, 7 7", "The outline at point 5 has only 1 point; 3 are the least."},
       {"0 0, 1 1, 3 3", "The edge from point 1 to 2 runs along the edge from point 3 to 1."},
-      {"0 0, 4 0, 4 4,, 0 0, 4 0, 4 4", "The points enclose no area."},
+      {"0 0, 4 0, 4 4,, 0 0, 2 0, 4 0, 4 4",
+       "The outlines at point 1 and at point 5 are the same."},
       {"", "There are no points."},
   };
   for (const Case& test : kCases) EXPECT_EQ(FaultOf(test.points), test.fault) << test.points;
