@@ -251,6 +251,11 @@ const Saved kSaved[] = {
      "INSULATED PIPES\r\nPipe Outside Diameter,4.5\r\nInsulation Thickness,1.5\r\n"
      "Pipe Temperature,215\r\nAir Temperature,86\r\nInsulation k-value,.25\r\n"
      "Length of Pipe,100.\r\n"},
+    {"Section_Properties",
+     "btn_save",
+     {"btn_clear"},
+     {{"Grid1", "0\t0\n4.50\t\n\n1,000\t-.25"}},
+     "SECTION PROPERTIES\r\nX,Y\r\n0,0\r\n4.5,\r\n,\r\n1000,-0.25\r\n"},
 };
 
 class DataFiles : public ::testing::TestWithParam<Saved> {};

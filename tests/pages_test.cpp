@@ -100,8 +100,6 @@ TEST_P(PageTest, ExampleIsWhatTheWindowGives) {
       [&](const std::string& line) { answers.push_back(line); },
       fs::read_symlink("/proc/self/exe").parent_path().string())
       .Run();
-  for (const std::string& window : WindowsOf(steps))
-    EXPECT_NE(text.find("src=\"pictures/" + window + ".png\""), std::string::npos) << window;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, PageTest, ::testing::ValuesIn(Pages()), [](const auto& test) {
@@ -139,7 +137,9 @@ TEST(Pages, ShowEachWindowThatComputes) {
                               "Help",       "DISPLAY",       "DISPLAY2",
                               "Page_Setup", "Beam_Selector", "Check_for_Updates"};
   for (const std::string& page : Pages())
-    for (const std::string& window : WindowsOf(WorkedExample(TextOf(page)))) shown.insert(window);
+    for (const std::string& window : WindowsOf(WorkedExample(TextOf(page))))
+      if (TextOf(page).find("src=\"pictures/" + window + ".png\"") != std::string::npos)
+        shown.insert(window);
   for (const WindowUnit& unit : WindowCatalogue())
     EXPECT_TRUE(shown.contains(unit.name)) << unit.name;
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "frame/entry_grid.h"
 #include "frame/files.h"
 #include "frame/names.h"
 #include "frame/person.h"
@@ -59,11 +60,9 @@ struct KeyName {
   std::string_view name;
   Key key;
 };
-constexpr KeyName kKeys[] = {{"F1", Key::F1},
-                             {"Tab", Key::Tab},
-                             {"Shift+Tab", Key::BackTab},
-                             {"Enter", Key::Enter},
-                             {"Ctrl+C", Key::CtrlC}};
+constexpr KeyName kKeys[] = {
+    {"F1", Key::F1},       {"Tab", Key::Tab},      {"Shift+Tab", Key::BackTab},
+    {"Enter", Key::Enter}, {"Ctrl+C", Key::CtrlC}, {"Delete", Key::Delete}};
 
 }  // namespace
 
@@ -80,7 +79,7 @@ const Verbs::Entry Verbs::kEntries[] = {
     {"cell", &Verbs::Cell},       {"rows", &Verbs::Rows},       {"columns", &Verbs::Columns},
     {"title", &Verbs::Title},     {"focused", &Verbs::Focused}, {"controls", &Verbs::Controls},
     {"global", &Verbs::Global},   {"setting", &Verbs::Setting}, {"windows", &Verbs::Windows},
-    {"dump", &Verbs::Dump},
+    {"dump", &Verbs::Dump},       {"point", &Verbs::PointAt},
 };
 
 Verbs::Verbs(Interpreter& interpreter, std::string_view line)
@@ -241,7 +240,8 @@ std::string Verbs::Focus() {
 std::string Verbs::Type() {
   auto& control = TakeUsable<CaptionedControl>("a field");
   const auto* combo = dynamic_cast<const Combo*>(&control);
-  if (control.GetKind() != Control::Kind::Text && (combo == nullptr || !combo->IsEditable()))
+  if (control.GetKind() != Control::Kind::Text && (combo == nullptr || !combo->IsEditable()) &&
+      dynamic_cast<const EntryGrid*>(&control) == nullptr)
     throw NotUnderstood{"not a field"};
   Person(session_).Types(control, Rest());
   return Nothing();
@@ -291,6 +291,19 @@ std::string Verbs::Pick() {
   if (index < 0 || index >= static_cast<int>(choice.Items().size()))
     throw NotUnderstood{"no such entry"};
   Person(session_).Selects(choice, index);
+  return Nothing();
+}
+
+/// The cell of a grid that typing goes to.
+std::string Verbs::PointAt() {
+  auto& grid = TakeUsable<Grid>("a grid");
+  const int row = Number(Word());
+  const int column = Number(Word());
+  const Table& table = grid.Content();
+  if (row < table.fixedRows || row >= table.rows || column < table.fixedColumns ||
+      column >= table.columns)
+    throw NotUnderstood{"no such cell"};
+  Person(session_).Points(grid, row, column);
   return Nothing();
 }
 

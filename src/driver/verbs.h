@@ -60,6 +60,7 @@ class Verbs {
   std::string Click();
   std::string Select();
   std::string Pick();
+  std::string PointAt();
   std::string Spin();
   std::string Scroll();
   std::string Tick();

@@ -24,6 +24,7 @@ std::string Written(const DataFile& data) {
     text += record.label + ',' + value;
     if (record.endsLineIfEmpty || !value.empty()) text += "\r\n";
   }
+  if (data.rest) text += data.rest();
   return ToCodePage(text);
 }
 
@@ -98,6 +99,7 @@ void LoadData(Session& session, const DataFile& data) {
       reader.Text();  // the label
       record.accept(reader.Value());
     }
+    if (data.acceptRest) data.acceptRest(reader);
     if (data.afterLoad) data.afterLoad();
   } catch (const RuntimeFailure&) {
     session.Message("Error reading data file.", Icon::Exclamation);

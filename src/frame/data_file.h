@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "frame/controls.h"
+#include "frame/delimited.h"
 #include "frame/session.h"
 
 namespace korvane {
@@ -46,6 +47,10 @@ struct DataFile {
   std::string loadTitle;
   std::vector<Record> records;
   Handler afterLoad;  ///< usually the window's computing command
+  /// Of a file that goes on with as many lines as its window has: what saving writes behind the
+  /// records, and what loading does with it.
+  std::function<std::string()> rest = {};
+  std::function<void(DelimitedReader&)> acceptRest = {};
 };
 
 /// Asks for a file and writes the records. Nothing happens on cancel; any failure is told with

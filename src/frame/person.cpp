@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "frame/entry_grid.h"
+
 namespace korvane {
 
 bool Person::Focuses(FocusControl& control) const {
@@ -33,6 +35,8 @@ void Person::Types(FocusControl& control, std::string text) const {
     Edits(*field, std::move(text));
   else if (auto* combo = dynamic_cast<Combo*>(&control))
     Edits(*combo, std::move(text));
+  else if (auto* grid = dynamic_cast<EntryGrid*>(&control))
+    Handle([&] { grid->Enter(text); });
 }
 
 namespace {
@@ -42,6 +46,10 @@ void PressEnter(Window& window) {
   FocusControl* control = window.Focus();
   if (auto* command = dynamic_cast<Command*>(control)) {
     command->Click();
+    return;
+  }
+  if (auto* grid = dynamic_cast<EntryGrid*>(control)) {
+    grid->MoveOn();
     return;
   }
   const Handler* own = nullptr;
@@ -62,6 +70,9 @@ void PressInControl(Window& window, Key key) {
     case Key::CtrlC:
       if (auto* grid = dynamic_cast<Grid*>(window.Focus()); grid != nullptr && grid->onCopy)
         grid->onCopy();
+      break;
+    case Key::Delete:
+      if (auto* grid = dynamic_cast<EntryGrid*>(window.Focus())) grid->ClearCell();
       break;
     case Key::F1: break;
   }

@@ -20,7 +20,8 @@ class Person {
   /// Changes the text of the field in focus, as by one paste or key; nothing if it is locked.
   void Edits(TextField& field, std::string text) const;
   void Edits(Combo& combo, std::string text) const;
-  /// Focus, then the whole text is replaced.
+  /// Focus, then the whole text is replaced; in a grid that of the current cell, or what a paste
+  /// brings from there on.
   void Types(FocusControl& control, std::string text) const;
   void Presses(Window& window, Key key) const;
   /// Commands, options and check boxes take the focus first; labels and pictures take none.

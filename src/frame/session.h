@@ -47,6 +47,8 @@ class Session {
   std::string ShapeMaterial;
   std::string TubingMaterial;
   std::string TubingShape;
+  std::string OutlinePoints;      ///< what the shape generator hands over, one "X,Y" a line
+  bool AddsOutline = false;       ///< beside the outlines that are there, not in their place
   std::string RemoteVersionText;  ///< what the version file on the product's web server held
 
   // The capture record, from a window's Print command to the page dialog.

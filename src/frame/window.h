@@ -15,7 +15,7 @@ namespace korvane {
 
 class Session;
 
-enum class Key : std::uint8_t { Enter, Tab, BackTab, F1, CtrlC };
+enum class Key : std::uint8_t { Enter, Tab, BackTab, F1, CtrlC, Delete };
 
 struct WindowTraits {
   std::string name;

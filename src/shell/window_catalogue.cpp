@@ -35,6 +35,7 @@
 #include "materials/periodic.h"
 #include "materials/pipedata.h"
 #include "materials/sched40.h"
+#include "materials/sheetmet.h"
 #include "materials/steelang.h"
 #include "materials/stl_chan.h"
 #include "materials/structural_tubing.h"
@@ -70,6 +71,8 @@
 #include "stress/columns2.h"
 #include "stress/moment_i.h"
 #include "stress/plate_deflection.h"
+#include "stress/section_properties.h"
+#include "stress/shape_generator.h"
 
 namespace korvane {
 namespace {
@@ -155,6 +158,7 @@ constexpr WindowUnit kUnits[] = {
     {"stl_chan", Make<stl_chan>},
     {"SteelAng", Make<SteelAng>},
     {"Structural_Tubing", Make<Structural_Tubing>},
+    {"SheetMet", Make<SheetMet>},
     // Stress
     {"beams", Make<beams>},
     {"columns2", Make<columns2>},
@@ -162,6 +166,8 @@ constexpr WindowUnit kUnits[] = {
     {"MOMENT_I", Make<MOMENT_I>},
     {"Beam_Calc", Make<Beam_Calc>},
     {"Beam_Selector", Make<Beam_Selector>, /*modal=*/true},
+    {"Section_Properties", Make<Section_Properties>},
+    {"shape_generator", Make<shape_generator>, /*modal=*/true},
 };
 
 }  // namespace

@@ -1,16 +1,22 @@
 #include "toolkit/grid_view.h"
 
+#include <QAbstractItemDelegate>
 #include <QAbstractTableModel>
 #include <QApplication>
+#include <QClipboard>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPalette>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTableView>
 #include <array>
+#include <functional>
+#include <utility>
 
+#include "frame/entry_grid.h"
 #include "toolkit/text.h"
 #include "toolkit/twips.h"
 
@@ -36,15 +42,34 @@ class PaneModel final : public QAbstractTableModel {
 
   void Reload() {
     beginResetModel();
+    rows_ = RowsNow();
     endResetModel();
   }
+
+  /// Brings the cells up to date with their editors left open: rows come and go at the end.
+  void Follow() {
+    const int rows = RowsNow();
+    if (rows > rows_) {
+      beginInsertRows({}, rows_, rows - 1);
+      rows_ = rows;
+      endInsertRows();
+    } else if (rows < rows_) {
+      beginRemoveRows({}, rows, rows_ - 1);
+      rows_ = rows;
+      endRemoveRows();
+    }
+    if (rows > 0 && columnCount() > 0)
+      emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+  }
+
+  /// What a person's text in a cell does; without it, no cell can be typed in.
+  std::function<void(int row, int column, const QString& text)> onEdit;
 
   int FirstRow() const { return fixedRows_ ? 0 : grid_.Content().fixedRows; }
   int FirstColumn() const { return fixedColumns_ ? 0 : grid_.Content().fixedColumns; }
 
   int rowCount(const QModelIndex& parent = {}) const override {
-    const Table& table = grid_.Content();
-    return parent.isValid() ? 0 : fixedRows_ ? table.fixedRows : table.rows - table.fixedRows;
+    return parent.isValid() ? 0 : rows_;
   }
 
   int columnCount(const QModelIndex& parent = {}) const override {
@@ -58,7 +83,8 @@ class PaneModel final : public QAbstractTableModel {
     const int row = FirstRow() + index.row();
     const int column = FirstColumn() + index.column();
     switch (role) {
-      case Qt::DisplayRole: return TextAt(row, column);
+      case Qt::DisplayRole:
+      case Qt::EditRole: return TextAt(row, column);
       case Qt::TextAlignmentRole: {
         const int code = grid_.Content().alignments[static_cast<std::size_t>(column)];
         return QVariant(AlignmentOf(code, TextAt(row, column)));
@@ -69,6 +95,17 @@ class PaneModel final : public QAbstractTableModel {
                    : QVariant();
       default: return {};
     }
+  }
+
+  Qt::ItemFlags flags(const QModelIndex& index) const override {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return onEdit ? flags | Qt::ItemIsEditable : flags;
+  }
+
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override {
+    if (role != Qt::EditRole || !onEdit || !index.isValid()) return false;
+    onEdit(FirstRow() + index.row(), FirstColumn() + index.column(), value.toString());
+    return true;
   }
 
   /// What stands fixed above a column or beside a row. The views hide their headers, but screen
@@ -86,11 +123,16 @@ class PaneModel final : public QAbstractTableModel {
   }
 
  private:
+  int RowsNow() const {
+    const Table& table = grid_.Content();
+    return fixedRows_ ? table.fixedRows : table.rows - table.fixedRows;
+  }
   QString TextAt(int row, int column) const { return ToQt(grid_.Content().At(row, column)); }
 
   const Grid& grid_;
   bool fixedRows_;
   bool fixedColumns_;
+  int rows_ = 0;  // that the views know of
 };
 
 /// One of the four parts of a grid: the fixed ones stand still in one direction or in both.
@@ -137,6 +179,7 @@ class GridView final : public ControlView {
   GridView(Grid& grid, const Person& person, QWidget& box)
       : ControlView(grid, box, person),
         grid_(grid),
+        entries_(dynamic_cast<EntryGrid*>(&grid)),
         corner_(grid, box, true, true),
         top_(grid, box, true, false),
         left_(grid, box, false, true),
@@ -162,9 +205,45 @@ class GridView final : public ControlView {
     }
     connect(body_.view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) { Point(index); });
+    if (entries_ != nullptr) TakeEntries();
   }
 
  private:
+  // Typing opens an editor in the cell; Enter in it goes on as Enter in the grid does.
+  void TakeEntries() {
+    body_.model.onEdit = [this](int row, int column, const QString& text) {
+      if (text == ToQt(grid_.Content().At(row, column))) return;
+      person_.Points(grid_, row, column);
+      const int version = grid_.Version();
+      person_.Types(grid_, FromQt(text));
+      refused_ = grid_.Version() == version;
+    };
+    connect(body_.view.itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this](QWidget*, QAbstractItemDelegate::EndEditHint hint) {
+              const bool stays = std::exchange(refused_, false);
+              if (hint == QAbstractItemDelegate::SubmitModelCache && !stays)
+                person_.Presses(grid_.Owner(), Key::Enter);
+            });
+  }
+
+  // The cells' own keys come to the view. An editor that has taken Enter lets it pass on, too.
+  bool IsEditorsEnter(const QObject* object, const QKeyEvent& key) const {
+    return object == body_.view.viewport() &&
+           (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+  }
+
+  bool TakesKey(const QKeyEvent& key) {
+    if (key.matches(QKeySequence::Paste)) {
+      person_.Types(grid_, FromQt(QApplication::clipboard()->text()));
+      return true;
+    }
+    if (key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace) {
+      person_.Presses(grid_.Owner(), Key::Delete);
+      return true;
+    }
+    return false;
+  }
+
   /// A bar that stands for the body's own, but outside of it, so that all panes end in one line.
   QScrollBar* ScrollBarOf(QScrollBar& inner, QWidget& box) {
     auto* bar = new QScrollBar(inner.orientation(), &box);
@@ -200,6 +279,7 @@ class GridView final : public ControlView {
         person_.Presses(grid_.Owner(), Key::CtrlC);
         return true;
       }
+      if (entries_ != nullptr && (TakesKey(*key) || IsEditorsEnter(object, *key))) return true;
     }
     if (event->type() == QEvent::ContextMenu) {
       person_.RightClicks(grid_);
@@ -212,21 +292,33 @@ class GridView final : public ControlView {
     const Table& table = grid_.Content();
     const bool fresh = grid_.Version() != shown_;
     if (fresh) {
+      const bool follows = entries_ != nullptr && shown_ != 0;
       shown_ = grid_.Version();
-      for (Pane* pane : {&corner_, &top_, &left_, &body_}) pane->Reload(table);
+      for (Pane* pane : {&corner_, &top_, &left_, &body_})
+        follows ? pane->model.Follow() : pane->Reload(table);
       for (Pane* pane : {&corner_, &left_}) pane->view.setFixedWidth(pane->Width());
       for (Pane* pane : {&corner_, &top_}) pane->view.setFixedHeight(pane->Height());
       corner_.view.setVisible(table.fixedRows > 0 && table.fixedColumns > 0);
       top_.view.setVisible(table.fixedRows > 0);
       left_.view.setVisible(table.fixedColumns > 0);
+      if (entries_ != nullptr) FitColumns();
     }
     Describe(table);
     const QModelIndex current = body_.model.index(grid_.Row() - body_.model.FirstRow(),
                                                   grid_.Column() - body_.model.FirstColumn());
     // A new table is read from its beginning, wherever its current cell is.
-    body_.view.setAutoScroll(!fresh);
+    body_.view.setAutoScroll(!fresh || entries_ != nullptr);
     if (current != body_.view.currentIndex()) body_.view.setCurrentIndex(current);
     body_.view.setAutoScroll(true);
+  }
+
+  // All columns are seen, beside the bar that comes with many rows.
+  void FitColumns() {
+    QWidget& box = Widget();
+    constexpr int leastRows = 8;
+    box.setFixedWidth(left_.Width() + body_.Width() +
+                      box.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    box.setMinimumHeight(leastRows * GridRowPixels());
   }
 
   void Describe(const Table& table) {
@@ -244,8 +336,10 @@ class GridView final : public ControlView {
   }
 
   Grid& grid_;
+  EntryGrid* entries_;  // the same, if a person fills it in
   Pane corner_, top_, left_, body_;
   int shown_ = 0;
+  bool refused_ = false;  // what was typed last
 };
 
 }  // namespace

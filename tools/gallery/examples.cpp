@@ -1,6 +1,7 @@
 #include "examples.h"
 
 #include <filesystem>
+#include <set>
 #include <sstream>
 #include <string_view>
 
@@ -49,8 +50,10 @@ Examples ReadExamples(bool metric) {
     for (std::string line; std::getline(lines, line);)
       if (!line.empty()) collector.Take(line);
   } else {
+    std::set<fs::path> pages;
     for (const auto& entry : fs::directory_iterator(KORVANE_SOURCE_DIR "/help"))
-      if (entry.path().extension() == ".html") TakePage(examples, entry.path());
+      if (entry.path().extension() == ".html") pages.insert(entry.path());
+    for (const fs::path& page : pages) TakePage(examples, page);
   }
   return examples;
 }

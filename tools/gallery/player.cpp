@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "driver/scripted_platform.h"
 #include "frame/person.h"
 
 namespace korvane {
@@ -22,7 +23,7 @@ std::string Rest(std::istream& words) {
   std::string rest;
   if (words.peek() == ' ') words.get();
   std::getline(words, rest);
-  return rest;
+  return Unescaped(rest);
 }
 
 int IndexOf(const Choice& choice, const std::string& text) {
