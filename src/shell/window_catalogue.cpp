@@ -50,6 +50,7 @@
 #include "mechanical/linshaft.h"
 #include "mechanical/pipe_bursting.h"
 #include "mechanical/rod_buckling.h"
+#include "mechanical/screws.h"
 #include "mechanical/shear_keys.h"
 #include "mechanical/sprocket.h"
 #include "mechanical/torsion.h"
@@ -136,6 +137,7 @@ constexpr WindowUnit kUnits[] = {
     {"torsion", Make<torsion>},
     {"HP_TORQUE", Make<HP_TORQUE>},
     {"GearCalc", Make<GearCalc>},
+    {"screws", Make<screws>},
     {"Shear_Keys", Make<Shear_Keys>},
     {"fastener", Make<fastener>},
     {"Hydraulic_cylinders", Make<Hydraulic_cylinders>},

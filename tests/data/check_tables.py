@@ -29,6 +29,7 @@ RECORDS = {
     "conductors.dat",
     "dielect.dat",
     "pipe.dat",
+    "screw_threads.dat",
     "solvents.dat",
 }
 

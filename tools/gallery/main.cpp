@@ -214,6 +214,7 @@ const std::vector<Example>& Examples() {
        {{"txt_force", "9000"}},
        {{"txt_stress", "300"}, {"txt_force", "20000"}},
        "txt_force"},
+      {"screws", {{"txt_search", "3/8-16"}}, {{"txt_search", "M12"}}, "txt_search"},
       {"Hydraulic_cylinders",
        {{"cmb_bore_dia", "3.25"},
         {"cmb_rod_dia", "1.375"},
