@@ -14,6 +14,7 @@
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/blowers.h"
 #include "hvac/boiling_point.h"
 #include "hvac/convectn.h"
 #include "hvac/duct_size.h"
@@ -108,6 +109,7 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro_2", Make<Psychro_2>},
     {"FanLawCalc", Make<FanLawCalc>},
     {"Duct_Size", Make<Duct_Size>},
+    {"BLOWERS", Make<BLOWERS>},
     {"perfloss", Make<perfloss>},
     {"convectn", Make<convectn>},
     {"Insulated_Pipes", Make<Insulated_Pipes>},

@@ -20,6 +20,8 @@ GENERATE = ROOT / "tools" / "tables" / "generate.py"
 # Files of records that calculators read themselves, so not laid out for the table viewer.
 RECORDS = {
     "BELTDATA.DAT",
+    "BLOWERS.dat",
+    "BLOWERS2.dat",
     "Conversion_Factors.dat",
     "Hazard_Class.dat",
     "SHEAVES.dat",
