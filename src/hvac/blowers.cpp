@@ -33,16 +33,6 @@ const char* WhyNot(Fit fit) {
   return "";
 }
 
-std::string PaddedLeft(std::string text, std::size_t width) {
-  if (text.size() < width) text.insert(0, width - text.size(), ' ');
-  return text;
-}
-
-std::string PaddedRight(std::string text, std::size_t width) {
-  if (text.size() < width) text.resize(width, ' ');
-  return text;
-}
-
 /// "BI" of "Backward Inclined".
 std::string Initials(const std::string& type) {
   std::string initials;
@@ -53,10 +43,10 @@ std::string Initials(const std::string& type) {
 
 // ---- The picture ----
 
-/// A round step that parts a length into four to ten.
+/// A round step that goes into a length four to ten times.
 double RoundStep(double length) {
   constexpr double most = 10;
-  double unit = std::pow(10, std::floor(std::log10(length / most)));
+  const double unit = std::pow(10, std::floor(std::log10(length / most)));
   for (const double times : {1.0, 2.0, 5.0, 10.0})
     if (length / (unit * times) <= most) return unit * times;
   return unit * most;
@@ -119,7 +109,10 @@ class Chart {
   static constexpr double kLeft = 48, kTop = 30, kWide = 384, kHigh = 230;
 
   static std::string Number(double value, double step) {
-    return Format(value, step >= 1 ? Mask("#,##0") : step >= 0.1 ? Mask("0.0") : Mask("0.00"));
+    return Format(value, step >= 1      ? Mask("#,##0")
+                         : step >= 0.1  ? Mask("0.0")
+                         : step >= 0.01 ? Mask("0.00")
+                                        : Mask("0.000"));
   }
 
   double flow_;
@@ -149,7 +142,7 @@ BLOWERS::BLOWERS(Session& session)
   ComputesAndMovesOn({&txt_flow, &txt_pressure, &txt_temperature, &txt_altitude},
                      [this] { Calculate(); });
   SelectsOnFocus({&txt_flow, &txt_pressure, &txt_temperature, &txt_altitude});
-  cmb_wheel.onSelect = [this] { ShowWheel(); };
+  cmb_wheel.onSelect = [this] { ChooseWheel(); };
   lst_ranking.onSelect = [this] { TakeCandidate(); };
   btn_calculate.onClick = [this] { Calculate(); };
   PassesFocusOn(
@@ -182,57 +175,70 @@ void BLOWERS::Load() {
   for (const BlowerWheel& wheel : wheels_) items.push_back(NameOf(wheel));
   cmb_wheel.SetItems(std::move(items));
   cmb_wheel.Select(0);
-  Calculate();
 }
 
 // ---- The duty ----
 
 void BLOWERS::Calculate() {
-  if (!ReadDuty()) return;
-  txt_density.Show(Shown(duty_.density * kStandardDensity, kKilograms),
-                   IsMetric() ? Mask("0.000") : Mask("0.0000"));
-  RankWheels();
-  ShowWheel();
+  const std::optional<Refusal> refusal = ReadDuty();
+  if (!refusal) {
+    RankWheels();
+    ShowWheel();
+    return;
+  }
+  GetSession().Message(refusal->message);
+  Clear();
+  refusal->field->SelectAll();
+  refusal->field->SetFocus();
 }
 
-bool BLOWERS::ReadDuty() {
+// In the midst of a load, too: inputs that make no sense are only told by the command.
+void BLOWERS::ChooseWheel() {
+  if (ReadDuty()) {
+    Clear();
+  } else {
+    RankWheels();
+    ShowWheel();
+  }
+}
+
+/// What is wrong with the inputs; the duty is theirs if nothing is.
+std::optional<BLOWERS::Refusal> BLOWERS::ReadDuty() {
   const Single typed = ToNumber(txt_temperature);
   const Double temperature = IsMetric() ? CelsiusToFahrenheit(typed) : Double(typed);
   const Single altitude = txt_altitude.Us();
-  duty_.flow = txt_flow.Us();
-  duty_.pressure = txt_pressure.Us();
-  if (duty_.flow <= 0) return Refuses(txt_flow, "Enter a flow above 0.");
-  if (duty_.pressure <= 0) return Refuses(txt_pressure, "Enter a static pressure above 0.");
+  const Single flow = txt_flow.Us(), pressure = txt_pressure.Us();
+  if (flow <= 0) return Refusal{&txt_flow, "Enter a flow above 0."};
+  if (pressure <= 0) return Refusal{&txt_pressure, "Enter a static pressure above 0."};
   if (temperature <= kAbsoluteZero)
-    return Refuses(txt_temperature, "Enter a temperature above absolute zero.");
+    return Refusal{&txt_temperature, "Enter a temperature above absolute zero."};
   if (altitude > kTropopause)
-    return Refuses(txt_altitude, IsMetric() ? "Enter an altitude of no more than 11,000 m."
-                                            : "Enter an altitude of no more than 36,089 ft.");
-  duty_.density = DensityRatio(temperature, altitude);
-  return true;
+    return Refusal{&txt_altitude, IsMetric() ? "Enter an altitude of no more than 11,000 m."
+                                             : "Enter an altitude of no more than 36,089 ft."};
+  duty_ = {flow, pressure, DensityRatio(temperature, altitude)};
+  return {};
 }
 
-bool BLOWERS::Refuses(TextField& field, const char* message) {
-  GetSession().Message(message);
+void BLOWERS::Clear() {
   ranking_.clear();
   walking_ = true;
   lst_ranking.SetItems({});
   walking_ = false;
   txt_density.Clear();
   ClearResults();
-  field.SelectAll();
-  field.SetFocus();
-  return false;
 }
 
 /// Those that suit by their power, then the others as the catalogue has them.
 void BLOWERS::RankWheels() {
+  txt_density.Show(Shown(duty_.density * kStandardDensity, kKilograms),
+                   IsMetric() ? Mask("0.000") : Mask("0.0000"));
   ranking_.clear();
   for (int i = 0; i < static_cast<int>(wheels_.size()); ++i)
     ranking_.push_back({i, Operate(At(i), duty_)});
-  const auto others = std::ranges::stable_partition(
-      ranking_, [](const Candidate& candidate) { return candidate.operation.Suits(); });
-  std::stable_sort(ranking_.begin(), others.begin(), [](const Candidate& a, const Candidate& b) {
+  const auto others =
+      std::stable_partition(ranking_.begin(), ranking_.end(),
+                            [](const Candidate& candidate) { return candidate.operation.Suits(); });
+  std::stable_sort(ranking_.begin(), others, [](const Candidate& a, const Candidate& b) {
     return a.operation.power < b.operation.power;
   });
   std::vector<std::string> rows;
@@ -250,7 +256,6 @@ void BLOWERS::TakeCandidate() {
 // ---- The wheel ----
 
 void BLOWERS::ShowWheel() {
-  if (ranking_.empty()) return;
   ClearResults();
   const int wheel = cmb_wheel.Index() - 1;
   auto chosen = ranking_.begin();

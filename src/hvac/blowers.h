@@ -2,6 +2,7 @@
 // power of each.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,9 +27,16 @@ class BLOWERS final : public CalculatorWindow {
     FanOperation operation;
   };
 
+  /// A field that makes no sense, and why.
+  struct Refusal {
+    TextField* field;
+    const char* message;
+  };
+
   void Calculate();
-  bool ReadDuty();
-  bool Refuses(TextField& field, const char* message);
+  void ChooseWheel();
+  std::optional<Refusal> ReadDuty();
+  void Clear();
   void RankWheels();
   void TakeCandidate();
   void ShowWheel();

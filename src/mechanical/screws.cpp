@@ -1,7 +1,7 @@
 #include "mechanical/screws.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 #include "frame/names.h"
 #include "frame/session.h"
@@ -168,8 +168,9 @@ void screws::Load() {
   drills_ = ParseDrills(session.ReadTable(kDrillFile));
   session.DataFileName = kThreadFile;
   threads_ = ParseThreads(session.ReadTable(kThreadFile));
-  std::ranges::stable_partition(
-      threads_, [metric = IsMetric()](const Thread& thread) { return thread.metric == metric; });
+  std::stable_partition(
+      threads_.begin(), threads_.end(),
+      [metric = IsMetric()](const Thread& thread) { return thread.metric == metric; });
   const auto usual = std::ranges::find(threads_, IsMetric() ? "M10 x 1.5" : "1/4-20 UNC",
                                        [](const Thread& thread) { return thread.Name(); });
   chosen_ = usual == threads_.end() ? &threads_.front() : &*usual;

@@ -176,11 +176,14 @@ Thread ReadThread(DelimitedReader& reader) {
   if (!(number > 0)) failures::InvalidCall();
   thread.pitch = thread.metric ? number : 1 / number;
   if (!(thread.BasicMinorDiameter() > 0)) failures::InvalidCall();
-  for (NamedSize* size : {&thread.holes[0], &thread.holes[1], &thread.holes[2], &thread.head,
-                          &thread.headHeight, &thread.nut, &thread.nutThickness, &thread.key}) {
-    size->name = reader.Text();
-    size->size = reader.Number();
-  }
+  const auto read = [&reader](NamedSize& size) {
+    size.name = reader.Text();
+    size.size = reader.Number();
+  };
+  for (NamedSize& hole : thread.holes) read(hole);
+  for (NamedSize* size :
+       {&thread.head, &thread.headHeight, &thread.nut, &thread.nutThickness, &thread.key})
+    read(*size);
   if (thread.metric)
     for (Double* tolerance : {&thread.positionG, &thread.majorTolerance, &thread.pitchTolerance,
                               &thread.internalMinorTolerance, &thread.internalPitchTolerance}) {

@@ -97,6 +97,7 @@ TEST(BlowerWindow, KeepsItsDutyInAFile) {
   load(
       "BLOWERS\r\nWheel, 9 \r\nFlow,5000\r\nStatic pressure,2.50\r\nTemperature,150\r\n"
       "Altitude,2000\r\n");
+  EXPECT_EQ(suite.Told(), Lines{"! dialog open Load data... | blowers.dta"});
   EXPECT_EQ(suite.Get<Combo>("cmb_wheel").Text(), "Backward Inclined, 24.5 x 9.75 in");
   EXPECT_EQ(suite.Get<TextField>("txt_pressure").Text(), "2.5");
   EXPECT_EQ(suite.Get<TextField>("txt_power").Text(), "2.51");
