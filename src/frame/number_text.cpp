@@ -152,4 +152,14 @@ std::string PlainText(Single value) { return General(value.Value(), 7); }
 
 std::string PlainText(Double value) { return General(value.Value(), 15); }
 
+std::string PaddedLeft(std::string text, std::size_t width) {
+  if (text.size() < width) text.insert(0, width - text.size(), ' ');
+  return text;
+}
+
+std::string PaddedRight(std::string text, std::size_t width) {
+  if (text.size() < width) text.resize(width, ' ');
+  return text;
+}
+
 }  // namespace korvane

@@ -1,4 +1,4 @@
-// Numbers from text and back, without masks and without any locale.
+// Numbers from text and back, without masks and without any locale; texts in columns.
 #pragma once
 
 #include <optional>
@@ -33,5 +33,9 @@ std::string SignedText(Number value) {
   if (!text.starts_with('-')) text.insert(0, 1, ' ');
   return text;
 }
+
+/// Filled with blanks to a width, for columns of fixed pitch; a longer text stays whole.
+std::string PaddedLeft(std::string text, std::size_t width);
+std::string PaddedRight(std::string text, std::size_t width);
 
 }  // namespace korvane

@@ -21,16 +21,6 @@ constexpr Color kClose = Color::Bgr(0xC0C0FF);
 constexpr const char* kShaftBore = "";
 constexpr const char* kBushed = "H";
 
-std::string PaddedLeft(std::string text, std::size_t width) {
-  if (text.size() < width) text.insert(0, width - text.size(), ' ');
-  return text;
-}
-
-std::string PaddedRight(std::string text, std::size_t width) {
-  if (text.size() < width) text.resize(width, ' ');
-  return text;
-}
-
 /// What the rating formula adds to a pitch diameter, in inches.
 double EffectiveAddition(std::string_view section) {
   if (section == "A") return 0.172;

@@ -14,6 +14,7 @@
 #include "frame/conversion_factors.h"
 #include "frame/display.h"
 #include "frame/page_setup.h"
+#include "hvac/blowers.h"
 #include "hvac/boiling_point.h"
 #include "hvac/convectn.h"
 #include "hvac/duct_size.h"
@@ -56,6 +57,7 @@
 #include "mechanical/linshaft.h"
 #include "mechanical/pipe_bursting.h"
 #include "mechanical/rod_buckling.h"
+#include "mechanical/screws.h"
 #include "mechanical/shear_keys.h"
 #include "mechanical/sprocket.h"
 #include "mechanical/torsion.h"
@@ -115,6 +117,7 @@ constexpr WindowUnit kUnits[] = {
     {"Psychro_2", Make<Psychro_2>},
     {"FanLawCalc", Make<FanLawCalc>},
     {"Duct_Size", Make<Duct_Size>},
+    {"BLOWERS", Make<BLOWERS>},
     {"perfloss", Make<perfloss>},
     {"convectn", Make<convectn>},
     {"Insulated_Pipes", Make<Insulated_Pipes>},
@@ -144,6 +147,7 @@ constexpr WindowUnit kUnits[] = {
     {"torsion", Make<torsion>},
     {"HP_TORQUE", Make<HP_TORQUE>},
     {"GearCalc", Make<GearCalc>},
+    {"screws", Make<screws>},
     {"Shear_Keys", Make<Shear_Keys>},
     {"fastener", Make<fastener>},
     {"Hydraulic_cylinders", Make<Hydraulic_cylinders>},

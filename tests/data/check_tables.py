@@ -20,9 +20,12 @@ GENERATE = ROOT / "tools" / "tables" / "generate.py"
 # Files of records that calculators read themselves, so not laid out for the table viewer.
 RECORDS = {
     "BELTDATA.DAT",
+    "BLOWERS.dat",
+    "BLOWERS2.dat",
     "Conversion_Factors.dat",
     "Elements.dat",
     "Hazard_Class.dat",
+    "SHAPES.dat",
     "SHEAVES.dat",
     "SPROCKET.dat",
     "Steam_Cv.dat",
@@ -30,7 +33,7 @@ RECORDS = {
     "conductors.dat",
     "dielect.dat",
     "pipe.dat",
-    "SHAPES.dat",
+    "screw_threads.dat",
     "solvents.dat",
 }
 

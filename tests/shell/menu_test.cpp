@@ -86,10 +86,8 @@ TEST(MenuWalk, OpensAllThatIsOffered) {
   suite.Shows("MAINFORM");
   MenuBar& menu = *suite.session.Find("MAINFORM")->Menu();
   int opened = 0;
-  std::set<std::string> missing;  // windows that are not built yet; no table is
   for (const MenuEntry& entry : menu.Entries())
-    if (entry.onClick && entry.visible && !entry.enabled) missing.insert(entry.name);
-  EXPECT_EQ(missing, (std::set<std::string>{"blower_w", "ScrewThreads"}));
+    EXPECT_TRUE(!entry.onClick || !entry.visible || entry.enabled) << entry.name;
   for (const char* units : {"Imperial", "SI_Metric"}) {
     suite.person.Picks(*menu.Find(units));
     for (MenuEntry& entry : menu.Entries()) {

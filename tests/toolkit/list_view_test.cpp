@@ -1,5 +1,6 @@
 // A long list on the screen.
 #include <QListWidget>
+#include <QMouseEvent>
 #include <sstream>
 
 #include "../support/temporary_folder.h"
@@ -34,6 +35,30 @@ TEST(Lists, ShowASearchedEntryInTheirMiddle) {
   Settle();
   EXPECT_EQ(place().top(), at);
   EXPECT_EQ(dynamic_cast<TextField&>(*window.Find("Text2")).Text(), "2");
+}
+
+// A row is clicked while inputs wait to be computed: the list is ranked anew under the click.
+TEST(Lists, TakeAnotherOrderUnderAClick) {
+  Desktop desktop(FromQt(QApplication::applicationDirPath()));
+  Window& window = desktop.Shows("BLOWERS");
+  auto& list = desktop.Get<QListWidget>("BLOWERS", "lst_ranking");
+  desktop.person.Types(dynamic_cast<FocusControl&>(*window.Find("txt_flow")), "900");
+  desktop.person.Types(dynamic_cast<FocusControl&>(*window.Find("txt_pressure")), ".75");
+  Settle();
+  constexpr int clicked = 4;
+  const QString wheel = list.item(clicked)->text().left(11);
+  const QPointF at = list.visualItemRect(list.item(clicked)).center();
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(list.viewport(), &event);
+  }
+  Settle();
+  EXPECT_EQ(wheel.toStdString(), "BI 18.25 in");
+  EXPECT_EQ(list.currentItem()->text().left(11), wheel);
+  EXPECT_EQ(dynamic_cast<Combo&>(*window.Find("cmb_wheel")).Text(),
+            "Backward Inclined, 18.25 x 7.25 in");
+  EXPECT_EQ(dynamic_cast<TextField&>(*window.Find("txt_power")).Text(), "0.16");
 }
 
 }  // namespace
