@@ -65,7 +65,8 @@ void Parallelogram(const Given& given, Value& a, Value& b, Value& Area) {
   }
 }
 
-/// a is the hypotenuse.
+/// a is the hypotenuse. Two legs give it without the area, which follows from it; the leg c takes b
+/// anew from the area.
 void RightTriangle(const Given& given, Value& a, Value& b, Value& c, Value& Area) {
   const auto otherLeg = [&](const Value& leg, Value& other) {
     other = Leg(a, leg);
@@ -74,10 +75,6 @@ void RightTriangle(const Given& given, Value& a, Value& b, Value& c, Value& Area
   const auto fromArea = [&](const Value& leg, Value& other) {
     other = 2 * Area / leg;
     a = Hypotenuse(b, c);
-  };
-  const auto fromLegs = [&] {
-    a = Hypotenuse(b, c);
-    Area = b * c / 2;
   };
   const auto ofEqualLegs = [&] { b = c = Root(Area * 2); };
 
@@ -90,18 +87,16 @@ void RightTriangle(const Given& given, Value& a, Value& b, Value& c, Value& Area
       ofEqualLegs();
   } else if (given(b)) {
     if (Present(c))
-      fromLegs();
+      a = Hypotenuse(b, c);
     else if (Present(a))
       otherLeg(b, c);
     else if (Present(Area))
       fromArea(b, c);
   } else if (given(c)) {
     if (Present(a))
-      otherLeg(c, b);
-    else if (Present(Area))
+      b = Leg(a, c);
+    else if (Present(b) || Present(Area))
       fromArea(c, b);
-    else if (Present(b))
-      fromLegs();
   } else if (given(Area)) {
     if (Present(b))
       fromArea(b, c);
