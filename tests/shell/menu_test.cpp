@@ -62,9 +62,10 @@ TEST_F(Menus, ShowTheShapesOfTheUnits) {
 TEST_F(Menus, OpenTablesByUnits) {
   for (const char* name : {"COPRWIRE.dat", "CoprWirM.dat", "ascii.DAT"}) WriteTable(name);
   Start();
-  EXPECT_FALSE(Menu().Find("Alwire")->enabled);  // its tables are not there
 
   suite.Told();
+  Pick("Alwire");  // in neither folder, which shows when it is opened
+  EXPECT_EQ(suite.Told(), Lines{"! failure 53 File not found"});
   Pick("CuWire");
   EXPECT_EQ(suite.Told(), Lines{"! shown DISPLAY"});
   EXPECT_EQ(suite.session.DataFileName, "COPRWIRE.dat");
@@ -86,7 +87,7 @@ TEST(MenuWalk, OpensAllThatIsOffered) {
   suite.Shows("MAINFORM");
   MenuBar& menu = *suite.session.Find("MAINFORM")->Menu();
   int opened = 0;
-  std::set<std::string> missing;  // windows that are not built yet; no table is
+  std::set<std::string> missing;  // windows that are not built yet
   for (const MenuEntry& entry : menu.Entries())
     if (entry.onClick && entry.visible && !entry.enabled) missing.insert(entry.name);
   EXPECT_EQ(missing,
