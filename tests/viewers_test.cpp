@@ -235,12 +235,17 @@ TEST_F(PageDialog, TakesMarginsUpToSixteenBitsOfTwips) {
 }
 
 TEST_F(PageDialog, ASecondPrintBringsItForwardAsItIs) {
+  suite.platform.printers = {{kOne, Orientation::Portrait, 12240, 15840}};
   Open();
-  suite.person.Activates(*suite.session.Find("FlowCalc"));
+  Window& printed = *suite.session.Find("FlowCalc");
+  suite.person.Activates(printed);
+  suite.person.Places(printed, {0, 0, 5000, 4000}, Window::State::Normal);
   suite.Told();
   Click("Command1");
   EXPECT_EQ(suite.Told(), Lines{});
   EXPECT_EQ(suite.session.Active()->Name(), "Page_Setup");
+  Click("btn_print");
+  EXPECT_EQ(suite.platform.printed.at(0).width, 4700);  // the size is the new one's
 }
 
 }  // namespace

@@ -53,7 +53,17 @@ constexpr GlobalSetting kGlobals[] = {
     {"VersionText", [](const Session& s) { return s.VersionText; }},
     {"HelpContextId", [](const Session& s) { return std::to_string(s.HelpContextId); }},
     {"AboutMode", [](const Session& s) { return Flag(s.AboutMode); }},
+    {"RemoteVersionText", [](const Session& s) { return s.RemoteVersionText; }},
     {"CaseNumber", [](const Session& s) { return std::to_string(s.CaseNumber); }},
+    {"ShapeSection", [](const Session& s) { return s.ShapeSection; }},
+    {"ShapeTitle", [](const Session& s) { return s.ShapeTitle; }},
+    {"ShapeMaterial", [](const Session& s) { return s.ShapeMaterial; }},
+    {"TubingMaterial", [](const Session& s) { return s.TubingMaterial; }},
+    {"TubingShape", [](const Session& s) { return s.TubingShape; }},
+    {"CaptureWidth", [](const Session& s) { return std::to_string(s.CaptureWidth); }},
+    {"CaptureHeight", [](const Session& s) { return std::to_string(s.CaptureHeight); }},
+    {"CaptureX", [](const Session& s) { return std::to_string(s.CaptureX); }},
+    {"CaptureY", [](const Session& s) { return std::to_string(s.CaptureY); }},
 };
 
 struct KeyName {

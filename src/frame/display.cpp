@@ -62,6 +62,7 @@ Drawing Motor() {
   Dimension(drawing, {58, 82}, {128, 82}, "2F (B)");
   Dimension(drawing, {128, 82}, {158, 82}, "BA (C)");
   Dimension(drawing, {158, 24}, {200, 24}, "N-W (E)");
+  Dimension(drawing, {166, 51}, {200, 51}, "V");
   Line(drawing, {{200, 38}, {222, 38}}, 0.4);
   Dimension(drawing, {216, 38}, {216, 70}, "D (H)");
   // From the shaft's end: round body on its feet.

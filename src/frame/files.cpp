@@ -157,18 +157,6 @@ std::optional<std::string> FindPath(const std::string& path) {
   return found.string();
 }
 
-std::set<std::string> NamesIn(const std::string& folder) {
-  std::set<std::string> names;
-  std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    std::string name = entry->path().filename().native();
-    std::transform(name.begin(), name.end(), name.begin(), ToLower);
-    names.insert(std::move(name));
-  }
-  return names;
-}
-
 std::string ReadFile(const std::string& path) {
   const auto found = FindPath(path);
   if (!found) failures::FileNotFound();

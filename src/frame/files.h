@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -13,9 +12,6 @@ inline constexpr char kSeparator = '/';
 /// The path as it stands if it exists, else the path whose parts differ only in case; nothing if
 /// there is none. Tables and the INI file come with names in both cases.
 std::optional<std::string> FindPath(const std::string& path);
-
-/// The names of a folder's entries in small letters; none for what is no folder.
-std::set<std::string> NamesIn(const std::string& folder);
 
 /// The bytes of a regular file, found as FindPath does. Fails with "File not found", "Path/File
 /// access error" for what is no regular file or may not be read, "Out of memory" beyond 16 MiB

@@ -66,8 +66,6 @@ void Page_Setup::Load() {
   ApplyFormColors(*this);
   session.RunPendingMessages();
   SetSize(kWidth, kHeight);
-  imageWidth_ = session.CaptureWidth;
-  imageHeight_ = session.CaptureHeight;
   if (session.CaptureWindow != nullptr) session.GetPlatform().Capture(*session.CaptureWindow);
   TakePrinter();
   Preview();
@@ -93,7 +91,9 @@ void Page_Setup::DoubleClicked() {
   Preview();
 }
 
-/// Places the image by the fields as they stand, which Fit to Page and the header may change.
+/// Places the image by the fields as they stand, which Fit to Page and the header may change. Its
+/// size is that of the window printed last, though the dialog keeps the picture that it opened
+/// with.
 Placement Page_Setup::Place(const Printer& printer) {
   if (ToNumber(txt_percent) <= 0) txt_percent.SetText("100");
   if (chk_header.IsOn() && ToNumber(txt_top_margin) < kHeaderSpace) txt_top_margin.SetText("0.50");
@@ -102,8 +102,8 @@ Placement Page_Setup::Place(const Printer& printer) {
                             .centered = chk_center.IsOn(),
                             .topMargin = TwipsOf(ToNumber(txt_top_margin)),
                             .leftMargin = TwipsOf(ToNumber(txt_left_margin))};
-  const Placement place =
-      PlaceImage(choices, imageWidth_, imageHeight_, printer.paperWidth, printer.paperHeight);
+  const Placement place = PlaceImage(choices, GetSession().CaptureWidth, GetSession().CaptureHeight,
+                                     printer.paperWidth, printer.paperHeight);
   if (place.fittedScale) txt_percent.Show(Int(*place.fittedScale * 100));
   return place;
 }

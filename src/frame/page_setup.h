@@ -47,9 +47,6 @@ class Page_Setup final : public Window {
   Command btn_apply{*this, "btn_apply", "Apply"};
   Command btn_print{*this, "btn_print", "Print"};
   Command Command2{*this, "Command2", "Cancel"};
-
-  Single imageWidth_;
-  Single imageHeight_;
 };
 
 }  // namespace korvane

@@ -47,7 +47,6 @@ void MAINFORM::Load() {
   session.HelpContextId = 1000;
 }
 
-// Made once the folders are known, since tables that are not there are not offered.
 void MAINFORM::MakeMenu() {
   menu_ = BuildMenu({
       .session = GetSession(),

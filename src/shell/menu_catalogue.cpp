@@ -1,11 +1,6 @@
 #include "shell/menu_catalogue.h"
 
-#include <algorithm>
 #include <optional>
-#include <set>
-
-#include "frame/files.h"
-#include "frame/names.h"
 
 namespace korvane {
 namespace {
@@ -349,41 +344,10 @@ std::function<void()> HandlerOf(Session& session, const CatalogueRow& row) {
   }
 }
 
-/// What can be opened: a window that is not built yet, or a table that is in neither folder, can't
-/// be clicked into a failure.
-class Offer {
- public:
-  explicit Offer(const Session& session)
-      : session_(session), tables_(NamesIn(session.ProgramFolder())) {
-    if (session.DataPath.ends_with(kSeparator)) tables_.merge(NamesIn(session.DataPath));
-  }
-
-  bool Has(const Action& action) const {
-    switch (action.kind) {
-      case Kind::Hidden: return false;
-      case Kind::Window:
-      case Kind::Shapes:
-      case Kind::Tubing: return session_.IsKnown(action.window);
-      case Kind::Table: return HasTable(action.us) && HasTable(action.metric);
-      default: return true;
-    }
-  }
-
- private:
-  bool HasTable(std::string name) const {
-    std::transform(name.begin(), name.end(), name.begin(), ToLower);
-    return tables_.contains(name);
-  }
-
-  const Session& session_;
-  std::set<std::string> tables_;  // in small letters
-};
-
 }  // namespace
 
 MenuBar BuildMenu(const MenuOwner& owner) {
   MenuBar menu;
-  const Offer offer(owner.session);
   for (const CatalogueRow& row : kRows) {
     MenuEntry entry;
     entry.depth = row.depth;
@@ -391,7 +355,6 @@ MenuBar BuildMenu(const MenuOwner& owner) {
     entry.name = row.name;
     entry.separator = row.action.kind == Kind::Separator;
     entry.visible = row.action.kind != Kind::Hidden;
-    entry.enabled = offer.Has(row.action);
     const auto own = owner.own.find(row.name);
     entry.onClick = own != owner.own.end() ? own->second : HandlerOf(owner.session, row);
     menu.Entries().push_back(std::move(entry));

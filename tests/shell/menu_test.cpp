@@ -62,9 +62,10 @@ TEST_F(Menus, ShowTheShapesOfTheUnits) {
 TEST_F(Menus, OpenTablesByUnits) {
   for (const char* name : {"COPRWIRE.dat", "CoprWirM.dat", "ascii.DAT"}) WriteTable(name);
   Start();
-  EXPECT_FALSE(Menu().Find("Alwire")->enabled);  // its tables are not there
 
   suite.Told();
+  Pick("Alwire");  // in neither folder, which shows when it is opened
+  EXPECT_EQ(suite.Told(), Lines{"! failure 53 File not found"});
   Pick("CuWire");
   EXPECT_EQ(suite.Told(), Lines{"! shown DISPLAY"});
   EXPECT_EQ(suite.session.DataFileName, "COPRWIRE.dat");
