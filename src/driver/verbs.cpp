@@ -338,17 +338,6 @@ std::string Verbs::Tick() {
 
 // ---- Questions ----
 
-namespace {
-
-/// What a field, list or combo holds; null for other controls.
-const std::string* TextOf(const Control& control) {
-  if (const auto* field = dynamic_cast<const TextField*>(&control)) return &field->Text();
-  if (const auto* choice = dynamic_cast<const Choice*>(&control)) return &choice->Text();
-  return nullptr;
-}
-
-}  // namespace
-
 std::string Verbs::Text() {
   const std::string* text = TextOf(Take<Control>("a control"));
   if (text == nullptr) throw NotUnderstood{"not a field, list or combo"};

@@ -45,6 +45,17 @@ void CalculatorWindow::CopiesWith(Command& command, const TextField& field) {
   command.onClick = [this, &field] { GetSession().GetPlatform().SetClipboard(field.Text()); };
 }
 
+void CalculatorWindow::CopiesWith(Command& command, std::vector<const CaptionedControl*> controls,
+                                  const Label* heading) {
+  command.onClick = [this, controls = std::move(controls), heading] {
+    std::string text = Title() + '\n';
+    if (heading != nullptr) text += heading->Caption() + '\n';
+    for (const CaptionedControl* control : controls)
+      text += control->Caption() + '\t' + *TextOf(*control) + '\n';
+    GetSession().GetPlatform().SetClipboard(text);
+  };
+}
+
 bool CalculatorWindow::IsMetric() const { return GetSession().MetricUnits; }
 
 void CalculatorWindow::SolvesWith(Command& command, std::initializer_list<TextField*> fields,

@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "frame/data_file.h"
 #include "frame/window.h"
@@ -32,6 +33,10 @@ class CalculatorWindow : public Window {
   void SavesWith(Command& command, const DataFile& data);
   void LoadsWith(Command& command, const DataFile& data);
   void CopiesWith(Command& command, const TextField& field);  ///< its text, to the clipboard
+  /// All that these hold, below the window's title: a line each, its caption and it with a tab
+  /// between them, as spreadsheets take them. What the label says, if there is one, comes first.
+  void CopiesWith(Command& command, std::vector<const CaptionedControl*> controls,
+                  const Label* heading = nullptr);
 
   /// Whether metric units are selected now; captions keep to the units at the window's load.
   bool IsMetric() const;

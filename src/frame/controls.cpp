@@ -218,6 +218,12 @@ void Combo::SetText(std::string text) {
 
 void Combo::Chosen() { text_ = Choice::Text(); }
 
+const std::string* TextOf(const Control& control) {
+  if (const auto* field = dynamic_cast<const TextField*>(&control)) return &field->Text();
+  if (const auto* choice = dynamic_cast<const Choice*>(&control)) return &choice->Text();
+  return nullptr;
+}
+
 // ---- Commands, options, check boxes ----
 
 Command::Command(Window& window, std::string name, const UnitText& caption)

@@ -329,6 +329,9 @@ class Combo : public Choice {
   Style style_;
 };
 
+/// What a field, list or combo holds; null for other controls.
+const std::string* TextOf(const Control& control);
+
 /// Something to click, which can show a picture; its caption is then its tool tip.
 class FacedControl : public FocusControl {
  public:

@@ -25,7 +25,9 @@ pipedata::pipedata(Session& session)
   cmb_standard.onSelect = [this] { ListSizes(); };
   cmb_size.onSelect = [this] { ListWalls(); };
   cmb_wall.onSelect = [this] { ShowPipe(); };
-  btn_copy.onClick = [this] { CopyPipe(); };
+  std::vector<const CaptionedControl*> copied = {&cmb_standard, &cmb_size, &cmb_wall};
+  for (const TextField* field : Results()) copied.push_back(field);
+  CopiesWith(btn_copy, std::move(copied));
 
   PassesFocusOn({&txt_od, &txt_id, &txt_wall, &txt_flow_area, &txt_metal_area, &txt_surface,
                  &txt_weight, &txt_full_weight, &txt_inertia, &txt_modulus, &txt_gyration});
@@ -121,17 +123,6 @@ void pipedata::ShowPipe() {
   txt_modulus.SetText(FourDigits(section.SectionModulus()));
   txt_gyration.SetText(FourDigits(section.RadiusOfGyration()));
   picture_.Draw(DrawnToScale(section));
-}
-
-// One line a value, its caption and it with a tab between them, as sheets take them.
-void pipedata::CopyPipe() {
-  std::string text;
-  const auto add = [&text](const CaptionedControl& control, const std::string& value) {
-    text += control.Caption() + '\t' + value + '\n';
-  };
-  for (const Combo* list : {&cmb_standard, &cmb_size, &cmb_wall}) add(*list, list->Text());
-  for (const TextField* field : Results()) add(*field, field->Text());
-  GetSession().GetPlatform().SetClipboard(text);
 }
 
 }  // namespace korvane

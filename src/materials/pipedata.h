@@ -24,7 +24,6 @@ class pipedata final : public CalculatorWindow {
   void ListSizes();
   void ListWalls();
   void ShowPipe();
-  void CopyPipe();
 
   Combo cmb_standard{*this, "cmb_standard", "Standard"};
   Combo cmb_size{*this, "cmb_size", "Nominal Size (NPS)"};

@@ -94,14 +94,18 @@ StructuralShapes::StructuralShapes(Session& session, const ShapeWindow& window, 
   txt_search.MakeFreeText();
   PassesFocusOn({&txt_us, &txt_metric});
   for (TextField* field : {&txt_us, &txt_metric}) field->MakeFreeText();
-  for (const auto& field : fields_)
-    if (field) PassesFocusOn({field.get()});
+  std::vector<const CaptionedControl*> copied = {&txt_us, &txt_metric};
+  for (const auto& field : fields_) {
+    if (!field) continue;
+    PassesFocusOn({field.get()});
+    copied.push_back(field.get());
+  }
+  CopiesWith(btn_copy, std::move(copied));
 
   FollowsTyping(txt_search, [this] { Seek(0); });
   txt_search.onEnter = [this] { SeekNext(); };
   SelectsOnFocus({&txt_search});
   lst_shapes.onSelect = [this] { ShowShape(); };
-  btn_copy.onClick = [this] { CopyShape(); };
   PrintsWith(btn_print);
   HelpsWith(btn_help);
   ExitsWith(btn_exit);
@@ -184,19 +188,6 @@ void StructuralShapes::ShowShape() {
     if (fields_[i]) fields_[i]->SetText(texts.back());
   }
   picture_.Draw(kind_.draw({shape, texts}));
-}
-
-// One line a value, its caption and it with a tab between them, as sheets take them.
-void StructuralShapes::CopyShape() {
-  std::string text = Title() + '\n';
-  const auto add = [&text](const TextField& field) {
-    text += field.Caption() + '\t' + field.Text() + '\n';
-  };
-  add(txt_us);
-  add(txt_metric);
-  for (const auto& field : fields_)
-    if (field) add(*field);
-  GetSession().GetPlatform().SetClipboard(text);
 }
 
 }  // namespace korvane

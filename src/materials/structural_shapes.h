@@ -80,7 +80,6 @@ class StructuralShapes : public CalculatorWindow {
   void SeekNext();
   std::string Shown(const Shape& shape, std::size_t column) const;
   void ShowShape();
-  void CopyShape();
 
   const ShapeWindow& kind_;
   const ShapeChoice choice_;

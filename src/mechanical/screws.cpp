@@ -89,8 +89,9 @@ screws::screws(Session& session)
   lst_threads.onSelect = [this] { ChooseThread(); };
   cmb_class.onSelect = [this] { ChooseClass(); };
   opt_inches.onClick = opt_millimeters.onClick = [this] { ShowThread(); };
-  btn_copy.onClick = [this] { CopyThread(); };
   for (TextField* field : Results()) PassesFocusOn({field});
+  const auto results = Results();
+  CopiesWith(btn_copy, {results.begin(), results.end()}, &lbl_thread);
 
   PrintsWith(btn_print);
   HelpsWith(btn_help);
@@ -347,13 +348,6 @@ void screws::ShowTapDrill(TapDrill& tap) {
   tap.drill.SetText(drill->name);
   ShowLength(tap.diameter, diameter);
   tap.actual.Show(thread.PercentOfThread(diameter), "0");
-}
-
-// One line a value, its caption and it with a tab between them, as sheets take them.
-void screws::CopyThread() {
-  std::string text = "Thread\t" + lbl_thread.Caption() + '\n';
-  for (const TextField* field : Results()) text += field->Caption() + '\t' + field->Text() + '\n';
-  GetSession().GetPlatform().SetClipboard(text);
 }
 
 }  // namespace korvane

@@ -41,7 +41,6 @@ class screws final : public CalculatorWindow {
   void ShowLength(TextField& field, Double length);
   void ShowSize(TextField& field, const NamedSize& size);
   bool ConvertsUnits() const;
-  void CopyThread();
 
   Combo cmb_series{*this, "cmb_series", "Series"};
   Label lbl_search{*this, "lbl_search", "Search"};
