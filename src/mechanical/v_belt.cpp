@@ -214,6 +214,7 @@ V_BELT::V_BELT(Session& session)
     BTN_SHOW.SetCaption(show ? "Hide Combinations" : "Show Combinations");
   };
   Command4.onClick = [this] {
+    GetSession().Unload("DISPLAY");  // a table that is open keeps its file
     GetSession().DataFileName = kFrames;
     GetSession().Show("DISPLAY");
   };
