@@ -26,7 +26,7 @@ beams::beams(Session& session)
                        {{simple, "Simple"}, {rigid, "Rigid"}, {cantilevered, "Cantilevered"}}),
             WordRecord("Load Type", {{uniform, "Uniform"}, {conc, "Conc"}}),
             TextRecord("Torque", TORQUE)},
-           {}} {
+           [this] { ComputeBeam(); }} {
   btn_calc.onClick = uniform.onClick = conc.onClick = [this] { ComputeBeam(); };
   for (Option* type : {&simple, &rigid, &cantilevered})
     type->onClick = [this] {
