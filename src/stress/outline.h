@@ -1,12 +1,13 @@
 // Outlines of straight edges, and the section that they enclose.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "frame/drawing.h"
 #include "frame/number.h"
 
 namespace korvane {
@@ -21,7 +22,34 @@ struct Vertex {
 /// Closed: its last corner is joined to the first.
 using Outline = std::vector<Vertex>;
 
-/// A number that may be a coordinate: nothing for other texts and for what lies beyond 1e12.
+/// The corner behind another, around the outline.
+inline std::size_t Next(std::size_t i, std::size_t count) { return i + 1 < count ? i + 1 : 0; }
+
+double Distance(const Vertex& a, const Vertex& b);
+double Perimeter(const Outline& outline);
+/// Twice the area, above 0 where the outline runs counterclockwise.
+double TwiceArea(const Outline& outline);
+
+inline constexpr double kFarthest = 1e12;  // of coordinates
+
+struct Bounds {
+  double left = kFarthest, right = -kFarthest, bottom = kFarthest, top = -kFarthest;
+
+  void Add(const Vertex& point) {
+    left = std::min(left, point.x);
+    right = std::max(right, point.x);
+    bottom = std::min(bottom, point.y);
+    top = std::max(top, point.y);
+  }
+  bool Holds(const Bounds& other) const {
+    return left <= other.left && right >= other.right && bottom <= other.bottom && top >= other.top;
+  }
+  double Extent() const { return std::max(right - left, top - bottom); }
+};
+Bounds BoundsOf(const std::vector<Outline>& outlines);
+
+/// A number that may be a coordinate: nothing for other texts and for what lies beyond the
+/// farthest.
 std::optional<double> Coordinate(std::string_view text);
 
 /// Outlines of rows that hold an X and a Y each; empty rows part them. Points that repeat the one
@@ -31,17 +59,6 @@ struct OutlineList {
   std::string fault;  ///< of a row with one number alone
 };
 OutlineList ReadOutlines(const std::vector<std::vector<std::string>>& rows);
-
-/// How outlines lie: within one another, or so that they enclose no section.
-struct Enclosure {
-  struct Edge {
-    Vertex from, to;
-  };
-  std::string fault;        ///< empty if there is none
-  std::vector<Edge> edges;  ///< at fault
-  std::vector<bool> holes;  ///< for each outline whether an odd number of others lies around it
-};
-Enclosure Enclose(const std::vector<Outline>& outlines);
 
 /// What outlines without a fault enclose, in powers of their unit of length.
 struct PlaneSection {
@@ -59,13 +76,5 @@ PlaneSection SectionOf(const std::vector<Outline>& outlines, const std::vector<b
 
 /// Rounded to six digits that count, without a mask.
 std::string SixDigits(Double value);
-
-/// The outlines to scale in a box of that size, with the measures over all: filled, or with their
-/// edges at fault in red. With a section, its centroid and principal axes.
-struct DrawingBox {
-  double width, height;
-};
-Drawing DrawnToScale(const std::vector<Outline>& outlines, const Enclosure& enclosure,
-                     const PlaneSection* section, DrawingBox box);
 
 }  // namespace korvane

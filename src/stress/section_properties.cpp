@@ -1,6 +1,8 @@
 #include "stress/section_properties.h"
 
 #include "frame/session.h"
+#include "stress/enclosure.h"
+#include "stress/outline_drawing.h"
 
 namespace korvane {
 namespace {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "frame/session.h"
+#include "stress/outline_drawing.h"
 
 namespace korvane {
 namespace {

@@ -7,6 +7,8 @@
 
 #include "frame/number_text.h"
 #include "fuzz.h"
+#include "stress/enclosure.h"
+#include "stress/outline_drawing.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <numbers>
 #include <sstream>
 
+#include "stress/enclosure.h"
 #include "stress/shapes.h"
 
 namespace korvane::testing {
