@@ -1,7 +1,8 @@
 // The data file of a calculator, of any bytes: the first chooses the calculator, the others are the
 // file. The window opens and takes all clicks; a file that it can't use fails, and is told.
-#include <array>
-#include <string_view>
+#include <filesystem>
+#include <iterator>
+#include <string>
 
 #include "../support/temporary_folder.h"
 #include "driver/scripted_platform.h"
@@ -15,18 +16,28 @@ using namespace korvane;
 
 struct Reader {
   const char* window;
-  std::vector<const char*> files;
+  const char* file;  ///< others that it needs are those of the program
 };
-const std::array kReaders = {Reader{"SPROCKET", {"SPROCKET.dat"}},
-                             Reader{"V_BELT", {"SHEAVES.dat", "BELTDATA.DAT", "NEMAFRAM.DAT"}},
-                             Reader{"steamflo", {"vapor-p.DAT"}},
-                             Reader{"SAFEVENT", {"solvents.dat"}},
-                             Reader{"Valve_Cv", {"Steam_Cv.dat"}},
-                             Reader{"voltage_drop", {"conductors.dat"}},
-                             Reader{"Plate_Capacitors", {"dielect.dat"}},
-                             Reader{"pipedata", {"pipe.dat"}},
-                             Reader{"Sched40", {"pipe.dat"}},
-                             Reader{"Hazard_Class", {"Hazard_Class.dat"}}};
+constexpr Reader kReaders[] = {
+    {"SPROCKET", "SPROCKET.dat"},
+    {"V_BELT", "SHEAVES.dat"},
+    {"V_BELT", "BELTDATA.DAT"},
+    {"steamflo", "vapor-p.DAT"},
+    {"SAFEVENT", "solvents.dat"},
+    {"Valve_Cv", "Steam_Cv.dat"},
+    {"voltage_drop", "conductors.dat"},
+    {"Plate_Capacitors", "dielect.dat"},
+    {"pipedata", "pipe.dat"},
+    {"Sched40", "pipe.dat"},
+    {"Hazard_Class", "Hazard_Class.dat"},
+    {"Wbeams", "SHAPES.dat"},
+    {"PERIODIC", "Elements.dat"},
+    {"screws", "screw_threads.dat"},
+    {"screws", "drillsiz.dat"},
+    {"BLOWERS", "BLOWERS.dat"},
+    {"BLOWERS", "BLOWERS2.dat"},
+    {"SheetMet", "Sheet_Gauges.dat"},
+};
 
 /// Clicks every command but those that end the window, and chooses the last entry of every list.
 void Work(Session& session, const char* name) {
@@ -50,14 +61,15 @@ void Work(Session& session, const char* name) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   static const testing::TemporaryFolder folder;
-  const Reader& reader = kReaders[*data % kReaders.size()];
-  for (const char* file : reader.files) folder.Write(file, std::string(Bytes(data + 1, size - 1)));
+  const Reader& reader = kReaders[*data % std::size(kReaders)];
+  folder.Write(reader.file, std::string(Bytes(data + 1, size - 1)));
 
   ScriptedPlatform platform;
-  Session session(platform, WindowCatalogue(), "");
+  Session session(platform, WindowCatalogue(), KORVANE_SOURCE_DIR "/data");
   session.DataPath = folder.Path() + '/';
   platform.onModal = [&session](Window& modal) { Person(session).Closes(modal); };
   session.Handle([&] { session.Show(reader.window); });
   Work(session, reader.window);
+  std::filesystem::remove(folder.File(reader.file));
   return 0;
 }
