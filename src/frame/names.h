@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace korvane {
@@ -12,6 +13,14 @@ constexpr char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>
 constexpr bool SameName(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return ToLower(x) == ToLower(y); });
+}
+
+/// As searches compare: in small letters, without blanks.
+inline std::string Folded(std::string_view text) {
+  std::string folded;
+  for (const char c : text)
+    if (c != ' ') folded += ToLower(c);
+  return folded;
 }
 
 }  // namespace korvane

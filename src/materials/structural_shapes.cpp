@@ -42,14 +42,6 @@ UnitText CaptionOf(const ShapeColumn& column) {
   return {name + " (" + units.us + ')', name + " (" + units.metric + ')'};
 }
 
-/// As it is sought: in small letters, without blanks.
-std::string InSmall(std::string_view text) {
-  std::string small;
-  for (const char letter : text)
-    if (letter != ' ') small += ToLower(letter);
-  return small;
-}
-
 }  // namespace
 
 std::optional<std::vector<Shape>> ReadShapes(std::string_view bytes, std::string_view key,
@@ -150,13 +142,13 @@ void StructuralShapes::ListShapes() {
 /// The first shape from this place around whose designation begins with the text; if none does, one
 /// that has it within. The designation that is listed counts before the one of the other units.
 void StructuralShapes::Seek(int from) {
-  const std::string wanted = InSmall(txt_search.Text());
+  const std::string wanted = Folded(txt_search.Text());
   if (wanted.empty()) return;
   for (const bool metric : {metric_, !metric_}) {
     for (const bool atStart : {true, false}) {
       for (std::size_t i = 0; i < shapes_.size(); ++i) {
         const std::size_t at = (static_cast<std::size_t>(from) + i) % shapes_.size();
-        const auto found = InSmall(shapes_[at].Designation(metric)).find(wanted);
+        const auto found = Folded(shapes_[at].Designation(metric)).find(wanted);
         if (found == std::string::npos || (atStart && found > 0)) continue;
         lst_shapes.Select(static_cast<int>(at));
         return;

@@ -38,14 +38,6 @@ std::vector<std::string> SeriesLabels(bool metricFirst) {
   return labels;
 }
 
-/// As a search compares: without blanks and in small letters.
-std::string Folded(std::string_view text) {
-  std::string folded;
-  for (const char c : text)
-    if (c != ' ') folded += ToLower(c);
-  return folded;
-}
-
 /// With three digits that count at least, from the smallest size on.
 std::string AreaText(Double area, bool squareMillimeters) {
   if (squareMillimeters) return Format(area, area < 10 ? Mask("0.00") : Mask("0.0"));
