@@ -204,11 +204,11 @@ Plate_Deflection::Plate_Deflection(Session& session)
   opt_uniform.onClick = opt_concentrated.onClick = [this] { ChooseLoad(); };
   opt_simple.onClick = opt_fixed.onClick = btn_Solve.onClick = [this] { Solve(); };
 
-  const auto excludes = [](TextField& load, bool& types, TextField& other) {
+  const auto excludes = [this](TextField& load, bool& types, TextField& other) {
     load.onFocus = [&types] { types = true; };
     load.onLeave = [&types] { types = false; };
-    load.onChange = [&types, &other] {
-      if (types) other.Clear();
+    load.onChange = [this, &types, &other] {
+      if (types && !writesLoad_) other.Clear();
     };
   };
   excludes(txt_total_load, typesTotal_, txt_unit_load);
@@ -303,18 +303,25 @@ void Plate_Deflection::SolvePlate(const PlateUnits& units) {
   }
 }
 
+/// Enter solves with the focus in a load, and still what is written is not typed.
+void Plate_Deflection::ShowLoad(TextField& load, Double value) {
+  writesLoad_ = true;
+  load.Show(value, "0.######");
+  writesLoad_ = false;
+}
+
 /// With neither load there is nothing to solve.
 template <class Area>
 void Plate_Deflection::SolveLoads(const FlatPlate& plate, const PlateUnits& units, Area area) {
   const Single total = ToNumber(txt_total_load);
   if (total > 0) {
     const auto q = total / area;
-    txt_unit_load.Show(q / units.pressure, "0.######");
+    ShowLoad(txt_unit_load, q / units.pressure);
     ShowResults(plate, units, total, q);
   } else if (const Single unit = ToNumber(txt_unit_load); unit > 0) {
     const auto q = unit * units.pressure;
     const auto P = q * area;
-    txt_total_load.Show(P, "0.######");
+    ShowLoad(txt_total_load, P);
     ShowResults(plate, units, P, q);
   }
 }

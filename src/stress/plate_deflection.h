@@ -23,6 +23,7 @@ class Plate_Deflection final : public CalculatorWindow {
   void SolvePlateUS();
   void SolvePlateMetric();
   void SolvePlate(const PlateUnits& units);
+  void ShowLoad(TextField& load, Double value);
   template <class Area>
   void SolveLoads(const FlatPlate& plate, const PlateUnits& units, Area area);
   template <class Total>
@@ -73,6 +74,7 @@ class Plate_Deflection final : public CalculatorWindow {
   // A load that is typed wipes the other, one that is written does not.
   bool typesTotal_ = false;
   bool typesUnit_ = false;
+  bool writesLoad_ = false;
   DataFile file;
 };
 
