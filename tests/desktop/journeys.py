@@ -266,6 +266,24 @@ def a_window_of_each_menu(korvane):
         shown.press("Exit")
 
 
+def lists_and_charts(korvane):
+    """A shape that is typed, an element that is clicked, and its neighbours by the arrow keys."""
+    korvane.start()
+    menu("Structural", "Structural Steel Shapes", "Steel I-Beams (W Sections)")
+    beams = window("Steel W-Beams")
+    enter(beams, "Search", "w12x26")
+    expect("the area", lambda: beams.field("Area, A (in2)").text, "7.65")
+    menu("Materials", "Periodic Chart of the Elements")
+    chart = window("Periodic Chart of the Elements")
+    enter(chart, "Find Name, Symbol or Number", "Fe")
+    expect("the weight", lambda: chart.field("Atomic Weight").text, "55.845")
+    chart.get("radio button", "Krypton").click()
+    expect("the element clicked", lambda: chart.field("Symbol").text, "Kr")
+    for key, symbol in (("Up", "Ar"), ("Left", "Cl"), ("Right", "Ar"), ("Down", "Kr")):
+        keys(key)
+        expect(f"the element that {key} leads to", lambda: chart.field("Symbol").text, symbol)
+
+
 # ---- Files ----
 
 def choose_file(title, path):
@@ -311,6 +329,38 @@ def save_and_load(korvane):
     wait_for("the message", lambda: window("Korvane").says("Invalid data file."))
     keys("Return")
     assert orifice.field("Flow Rate (CFM)").text == "17.91"
+
+
+def points_of_a_section(korvane):
+    """Typed cell by cell, drawn and solved meanwhile; the file gives them back."""
+    korvane.start()
+    menu("Mechanical", "Section Properties Calculator")
+    section = window("Section Properties")
+
+    def shows(area, distance):
+        expect("the area", lambda: section.field("Area (in2)").text, area)
+        expect("the centroid", lambda: section.field("Centroid X (in)").text, distance)
+
+    section.press("Clear")
+    section.press("Add Row")
+    for number in "0 0 4 0 4 3 0 3".split():
+        write(number)
+        keys("Return")
+    shows("12", "2")
+    section.press("New Outline")
+    for number in "1 1 2 1 2 2 1 2".split():
+        write(number)
+        keys("Return")
+    shows("11", "2.04545")
+    path = korvane.folder / "section.dta"
+    section.press("Save")
+    choose_file("Save as...", path)
+    wait_for("the file", path.is_file)
+    section.press("Clear")
+    shows("", "")
+    section.press("Load")
+    choose_file("Load data...", path)
+    shows("11", "2.04545")
 
 
 def read_only_file(korvane):
@@ -427,7 +477,7 @@ def act(control):
 
 JOURNEYS = (first_start, bad_setting, keyboard_alone, tab_order, option_group, pasted_and_keypad,
             help_pages, save_and_load, read_only_file, units, geometry_is_kept, exit_while_maximized,
-            exit_with_calculator_open, beam_palette, about, a_window_of_each_menu, names, no_keys,
+            exit_with_calculator_open, beam_palette, about, a_window_of_each_menu, lists_and_charts, points_of_a_section, names, no_keys,
             settings_that_fail)
 
 
