@@ -477,8 +477,8 @@ def act(control):
 
 JOURNEYS = (first_start, bad_setting, keyboard_alone, tab_order, option_group, pasted_and_keypad,
             help_pages, save_and_load, read_only_file, units, geometry_is_kept, exit_while_maximized,
-            exit_with_calculator_open, beam_palette, about, a_window_of_each_menu, lists_and_charts, points_of_a_section, names, no_keys,
-            settings_that_fail)
+            exit_with_calculator_open, beam_palette, about, a_window_of_each_menu, lists_and_charts,
+            points_of_a_section, names, no_keys, settings_that_fail)
 
 
 def out_of_time(*_):
