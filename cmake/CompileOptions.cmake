@@ -17,7 +17,9 @@ target_compile_options(korvane_options INTERFACE
 
 if(KORVANE_SANITIZE)
   set(sanitize -fsanitize=${KORVANE_SANITIZE} -fno-sanitize-recover=all)
-  target_compile_options(korvane_options INTERFACE ${sanitize} -fno-omit-frame-pointer)
+  target_compile_options(korvane_options INTERFACE ${sanitize} -fno-omit-frame-pointer
+    # With sanitizers GCC 12 takes the standard's regular expressions for uninitialized.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_definitions(korvane_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(korvane_options INTERFACE ${sanitize})
 endif()
