@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "driver/interpreter.h"
+#include "frame/files.h"
 #include "pages/contents.h"
 #include "pages/worked_example.h"
 #include "shell/window_catalogue.h"
@@ -29,7 +30,7 @@ std::vector<std::string> Pages() {
   return pages;
 }
 
-std::string TextOf(const std::string& page) { return ReadPage((kHelp / page).string() + ".html"); }
+std::string TextOf(const std::string& page) { return ReadFile((kHelp / page).string() + ".html"); }
 
 /// What stands between the brackets of a pattern, wherever it occurs.
 std::vector<std::string> Found(const std::string& text, const char* pattern) {
@@ -51,7 +52,7 @@ TEST_P(PageTest, LinksAndPicturesAreThere) {
     const std::string file = address.substr(0, mark);
     ASSERT_TRUE(file.empty() || fs::is_regular_file(kHelp / file)) << address;
     if (mark == std::string::npos) continue;
-    const std::string target = file.empty() ? text : ReadPage((kHelp / file).string());
+    const std::string target = file.empty() ? text : ReadFile((kHelp / file).string());
     const std::string place = address.substr(mark + 1);
     EXPECT_NE(target.find("id=\"" + place + "\""), std::string::npos) << address;
   }

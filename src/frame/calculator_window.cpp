@@ -79,7 +79,7 @@ void CalculatorWindow::FollowsTyping(TextField& field, const Handler& follow) {
   };
 }
 
-void CalculatorWindow::PassesFocusOn(std::initializer_list<TextField*> fields) {
+void CalculatorWindow::PassesFocusOn(const std::vector<TextField*>& fields) {
   for (TextField* field : fields) {
     field->MakeResult();
     field->onFocus = [this] { GetSession().SendTab(); };

@@ -47,7 +47,7 @@ class CalculatorWindow : public Window {
   /// Enter in these fields computes, and then a simulated Tab moves the focus on.
   void ComputesAndMovesOn(std::initializer_list<TextField*> fields, const Handler& compute);
   /// A result field that passes the focus on as soon as it gets it.
-  void PassesFocusOn(std::initializer_list<TextField*> fields);
+  void PassesFocusOn(const std::vector<TextField*>& fields);
   /// Fields that show results although a person may type in them: set apart from inputs to the eye
   /// alone.
   static void ShowsResultsIn(std::initializer_list<TextField*> fields);

@@ -29,8 +29,7 @@ pipedata::pipedata(Session& session)
   for (const TextField* field : Results()) copied.push_back(field);
   CopiesWith(btn_copy, std::move(copied));
 
-  PassesFocusOn({&txt_od, &txt_id, &txt_wall, &txt_flow_area, &txt_metal_area, &txt_surface,
-                 &txt_weight, &txt_full_weight, &txt_inertia, &txt_modulus, &txt_gyration});
+  PassesFocusOn(Results());
   PrintsWith(btn_print);
   HelpsWith(btn_help);
   ExitsWith(btn_exit);

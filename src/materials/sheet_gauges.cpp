@@ -56,6 +56,7 @@ std::vector<SheetGauge> SheetGaugesOf(const SheetMaterial& material, std::string
                      material.isWeighed ? Strict(gauges.At(row, column + 1))
                                         : SheetWeight(material, Strict(thickness), metric)});
   }
+  if (found.empty()) failures::InvalidCall();
   return found;
 }
 

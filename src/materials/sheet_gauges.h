@@ -36,7 +36,8 @@ Double SheetArea(Double width, Double length, bool metric);
 Double SheetWeight(const SheetMaterial& material, Double thickness, bool metric);
 
 /// The gauges that a material has, out of the bytes of the table in that unit system. Fails with
-/// "Invalid procedure call or argument" if the table has no column of the material.
+/// "Invalid procedure call or argument" if the table has no column of the material, or nothing in
+/// it.
 std::vector<SheetGauge> SheetGaugesOf(const SheetMaterial& material, std::string_view table,
                                       bool metric);
 

@@ -81,8 +81,8 @@ screws::screws(Session& session)
   lst_threads.onSelect = [this] { ChooseThread(); };
   cmb_class.onSelect = [this] { ChooseClass(); };
   opt_inches.onClick = opt_millimeters.onClick = [this] { ShowThread(); };
-  for (TextField* field : Results()) PassesFocusOn({field});
   const auto results = Results();
+  PassesFocusOn(results);
   CopiesWith(btn_copy, {results.begin(), results.end()}, &lbl_thread);
 
   PrintsWith(btn_print);

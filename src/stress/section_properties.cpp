@@ -31,9 +31,7 @@ Section_Properties::Section_Properties(Session& session)
   lbl_points.MakeHeading();
   BindRows();
   txt_density.onEnter = [this] { ShowMass(); };
-  PassesFocusOn({&txt_area, &txt_perimeter, &txt_x, &txt_y, &txt_Ix, &txt_Iy, &txt_Ixy, &txt_I1,
-                 &txt_I2, &txt_angle, &txt_polar, &txt_Sx_top, &txt_Sx_bottom, &txt_Sy_left,
-                 &txt_Sy_right, &txt_rx, &txt_ry, &txt_r_least, &txt_mass});
+  PassesFocusOn(Results());
 
   file_ = {"SECTION PROPERTIES", "section.dta", "Load data...", {}, [this] { Solve(); }};
   file_.rest = [this] { return Lines(); };

@@ -48,6 +48,11 @@ TEST(SheetGauges, NeedTheirColumns) {
   };
   EXPECT_EQ(fails("\"Sheet steel\",\"Sheet steel\"", "\"Iron\",\"Iron\""), kInvalidCall);
   EXPECT_EQ(fails("\"2.500\"", "\"heavy\""), kTypeMismatch);
+  const std::string empty =
+      "Gauges\nGauges\n2, 3, 1, 1\n900, 900, 900\n4, 4, 4\n"
+      "\"Gauge\",\"Sheet steel\",\"Sheet steel\"\n\"10\",\"\",\"\"\n";
+  EXPECT_EQ(FailureOf([&] { SheetGaugesOf(SheetMaterials().front(), empty, false); }),
+            kInvalidCall);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string_view>
 
+#include "frame/files.h"
 #include "pages/worked_example.h"
 
 namespace korvane {
@@ -36,7 +37,7 @@ class Collector {
 
 void TakePage(Examples& examples, const fs::path& path) {
   Collector collector(examples);
-  for (const ExampleStep& step : WorkedExample(ReadPage(path)))
+  for (const ExampleStep& step : WorkedExample(ReadFile(path)))
     if (!step.answer) collector.Take(step.command);
 }
 
@@ -45,7 +46,7 @@ void TakePage(Examples& examples, const fs::path& path) {
 Examples ReadExamples(bool metric) {
   Examples examples;
   if (metric) {
-    std::istringstream lines(ReadPage(KORVANE_SOURCE_DIR "/tools/gallery/metric_examples.txt"));
+    std::istringstream lines(ReadFile(KORVANE_SOURCE_DIR "/tools/gallery/metric_examples.txt"));
     Collector collector(examples);
     for (std::string line; std::getline(lines, line);)
       if (!line.empty()) collector.Take(line);

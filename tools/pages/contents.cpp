@@ -6,9 +6,9 @@
 #include <stdexcept>
 
 #include "driver/scripted_platform.h"
+#include "frame/files.h"
 #include "frame/person.h"
 #include "frame/session.h"
-#include "pages/worked_example.h"
 #include "shell/window_catalogue.h"
 
 namespace korvane {
@@ -39,7 +39,7 @@ std::string Taken(const std::string& text, const char* pattern) {
 }
 
 std::string Link(const fs::path& help, const std::string& page) {
-  const std::string title = Taken(ReadPage((help / page).string() + ".html"), "<h1>(.*)</h1>");
+  const std::string title = Taken(ReadFile((help / page).string() + ".html"), "<h1>(.*)</h1>");
   return "<a href=\"" + page + ".html\">" + title + "</a>";
 }
 
@@ -60,7 +60,7 @@ std::string Lines(const std::vector<std::string>& pages, const fs::path& help) {
   std::string list = "<table cellpadding=\"3\">\n";
   for (const std::string& page : pages) {
     const std::string first =
-        Taken(ReadPage((help / page).string() + ".html"), R"(<p>([^]*?\.)(?:\s+[A-Z<]|</p>))");
+        Taken(ReadFile((help / page).string() + ".html"), R"(<p>([^]*?\.)(?:\s+[A-Z<]|</p>))");
     list += "<tr><td>" + Link(help, page) + "</td><td>" + first + "</td></tr>\n";
   }
   return list + "</table>\n";

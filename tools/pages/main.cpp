@@ -6,7 +6,6 @@
 
 #include "contents.h"
 #include "frame/files.h"
-#include "pages/worked_example.h"
 
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
@@ -19,7 +18,7 @@ int main(int argc, char** argv) {
         korvane::PagesOfMenus(fs::read_symlink("/proc/self/exe").parent_path().string());
     for (const auto& entry : fs::directory_iterator(argv[1])) {
       if (entry.path().extension() != ".html") continue;
-      const std::string page = korvane::ReadPage(entry.path().string());
+      const std::string page = korvane::ReadFile(entry.path().string());
       const std::string made = korvane::WithLists(page, menus, argv[1]);
       if (made != page) korvane::WriteFile(entry.path().string(), made);
     }

@@ -1,10 +1,8 @@
 #include "worked_example.h"
 
 #include <algorithm>
-#include <fstream>
 #include <regex>
 #include <sstream>
-#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -61,13 +59,6 @@ std::vector<std::string> WindowsOf(const std::vector<ExampleStep>& steps) {
       windows.push_back(std::move(window));
   }
   return windows;
-}
-
-std::string ReadPage(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  if (!file || !(text << file.rdbuf())) throw std::runtime_error("cannot read " + path);
-  return text.str();
 }
 
 }  // namespace korvane

@@ -23,7 +23,4 @@ std::vector<ExampleStep> WorkedExample(const std::string& page);
 /// The windows that the steps show, each once.
 std::vector<std::string> WindowsOf(const std::vector<ExampleStep>& steps);
 
-/// The text of a file; throws std::runtime_error if it can't be read.
-std::string ReadPage(const std::string& path);
-
 }  // namespace korvane
